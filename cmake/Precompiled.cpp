@@ -1,0 +1,1 @@
+// Nothing: the target exists for the precompiled header that others reuse.
