@@ -1,0 +1,97 @@
+#include "studio/cards/OpenApplicationCard.h"
+
+#include "model/OptionalText.h"
+#include "platform/ports/ApplicationControl.h"
+#include "studio/applications/ApplicationScan.h"
+
+namespace tarvin {
+
+OpenApplicationCard::OpenApplicationCard(const KeyRecord& record, const ApplicationFolders& folders,
+    const ApplicationControl& applications, Scheduler& scheduler)
+    : m_record(record)
+    , m_folders(folders)
+    , m_applications(applications)
+    , m_list(scheduler, [&folders] { return applicationsToOpen(folders); })
+{
+    connect(&m_list, &ApplicationList::loaded, this, &OpenApplicationCard::changed);
+}
+
+bool OpenApplicationCard::hasApplication() const
+{
+    const ConfiguredAction config = m_record.config();
+    return hasText(config.customAppName) || hasText(config.customAppBundleId) || hasText(config.customAppPath);
+}
+
+QString OpenApplicationCard::applicationName() const
+{
+    return m_record.config().customAppName.value_or(QString());
+}
+
+std::optional<QString> OpenApplicationCard::resolvedAppPath() const
+{
+    const ConfiguredAction config = m_record.config();
+    if (config.customAppPath && m_applications.exists(*config.customAppPath))
+        return config.customAppPath;
+    return config.customAppBundleId ? m_applications.pathOfApplication(*config.customAppBundleId) : std::nullopt;
+}
+
+QString OpenApplicationCard::pressHint() const
+{
+    const QString name = m_record.config().customAppName.value_or(QStringLiteral("your application"));
+    return QStringLiteral("Press %1 on your keyboard to instantly launch or switch to %2")
+        .arg(displayName(m_record.key()), name);
+}
+
+QStringView OpenApplicationCard::changeSymbol() const
+{
+    return m_isPickerPresented ? QStringView(u"chevron.up") : QStringView(u"arrow.triangle.2.circlepath");
+}
+
+QString OpenApplicationCard::fileDialogMessage() const
+{
+    return QStringLiteral("Choose an application to assign to %1").arg(rawValue(m_record.key()));
+}
+
+void OpenApplicationCard::toggleList()
+{
+    m_isPickerPresented = !m_isPickerPresented;
+    Q_EMIT changed();
+}
+
+void OpenApplicationCard::setSearchText(const QString& text)
+{
+    if (text == m_searchText)
+        return;
+    m_searchText = text;
+    Q_EMIT changed();
+}
+
+QList<InstalledApplication> OpenApplicationCard::filteredInstalledApps() const
+{
+    return m_list.search().containing(m_searchText);
+}
+
+bool OpenApplicationCard::isChosen(const InstalledApplication& application) const
+{
+    return m_record.config().customAppBundleId == application.bundleIdentifier;
+}
+
+void OpenApplicationCard::choose(const InstalledApplication& application)
+{
+    m_record.change([&application](ConfiguredAction& config) {
+        config.action = KeyAction::openApplication;
+        config.customAppName = application.name;
+        config.customAppBundleId = application.bundleIdentifier;
+        config.customAppPath = application.path;
+    });
+    m_isPickerPresented = false;
+    Q_EMIT changed();
+}
+
+void OpenApplicationCard::chooseFile(const QString& path)
+{
+    if (const std::optional<InstalledApplication> application = applicationAt(m_folders, path))
+        choose(*application);
+}
+
+} // namespace tarvin

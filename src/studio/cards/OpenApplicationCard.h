@@ -1,0 +1,72 @@
+#pragma once
+
+#include "platform/ports/ApplicationFolders.h"
+#include "studio/applications/ApplicationList.h"
+#include "studio/cards/KeyRecord.h"
+
+#include <QObject>
+#include <QString>
+
+#include <optional>
+
+namespace tarvin {
+
+class ApplicationControl;
+
+/// The card that says which application a key opens, with the list to choose it from. Lives as long as the picker and
+/// reads the list once. Main thread only; the folders outlive a scan under way.
+class OpenApplicationCard : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr QStringView placeholderSymbol = u"app.fill";
+    static constexpr QStringView placeholderText = u"Select any application bundle from your Mac";
+    static constexpr QStringView changeText = u"Change";
+    static constexpr QStringView browseText = u"Browse...";
+    static constexpr QStringView searchPrompt = u"Search installed apps...";
+    static constexpr QStringView fileDialogTitle = u"Select Application";
+
+    OpenApplicationCard(const KeyRecord& record, const ApplicationFolders& folders,
+        const ApplicationControl& applications, Scheduler& scheduler);
+
+    /// What the card does when it is first shown: reads what is installed.
+    void load() { m_list.load(); }
+
+    [[nodiscard]] bool hasApplication() const;
+    [[nodiscard]] QString applicationName() const;
+    /// Where the icon of the chosen application is to be had; absent if it isn't installed any more.
+    [[nodiscard]] std::optional<QString> resolvedAppPath() const;
+    [[nodiscard]] QString pressHint() const;
+    [[nodiscard]] QStringView changeSymbol() const;
+    [[nodiscard]] QString fileDialogMessage() const;
+    /// Where the file dialog begins and what it offers.
+    [[nodiscard]] ApplicationBrowsing browsing() const { return m_folders.browsing(); }
+
+    /// Whether the list is there: asked for, or needed because nothing is chosen yet.
+    [[nodiscard]] bool showsList() const { return m_isPickerPresented || !hasApplication(); }
+    void toggleList();
+    [[nodiscard]] const QString& searchText() const { return m_searchText; }
+    void setSearchText(const QString& text);
+    [[nodiscard]] QList<InstalledApplication> filteredInstalledApps() const;
+    [[nodiscard]] bool isChosen(const InstalledApplication& application) const;
+
+    /// Makes the key open the application, and closes the list.
+    void choose(const InstalledApplication& application);
+    /// The same for what the user found by the file dialog; nothing for what has no bundle identifier.
+    void chooseFile(const QString& path);
+
+Q_SIGNALS:
+    /// Anything shown may differ.
+    void changed();
+
+private:
+    KeyRecord m_record;
+    const ApplicationFolders& m_folders;
+    const ApplicationControl& m_applications;
+    ApplicationList m_list;
+    QString m_searchText;
+    bool m_isPickerPresented = false;
+};
+
+} // namespace tarvin
