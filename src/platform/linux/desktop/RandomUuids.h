@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/ports/UuidGenerator.h"
+
+namespace tarvin::desktop {
+
+/// Random identifiers (version 4) from the system's generator.
+class RandomUuids : public UuidGenerator
+{
+public:
+    [[nodiscard]] QUuid next() override { return QUuid::createUuid(); }
+};
+
+} // namespace tarvin::desktop

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/ports/Console.h"
+
+namespace tarvin::desktop {
+
+/// The standard output, in UTF-8, each line written out at once and whole.
+class StdoutConsole : public Console
+{
+public:
+    void printLine(const QString& line) override;
+};
+
+} // namespace tarvin::desktop

@@ -1,0 +1,12 @@
+// The tests of this program use the event loop, which the plain main of the test library does not have.
+
+#include <gmock/gmock.h>
+
+#include <QCoreApplication>
+
+int main(int count, char** arguments)
+{
+    testing::InitGoogleMock(&count, arguments);
+    const QCoreApplication application(count, arguments);
+    return RUN_ALL_TESTS();
+}
