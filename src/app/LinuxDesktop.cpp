@@ -1,0 +1,94 @@
+#include "app/LinuxDesktop.h"
+
+#include "interception/RuntimeLog.h"
+#include "platform/posix/XdgDirectories.h"
+
+#include <QDBusConnection>
+#include <QGuiApplication>
+
+#include <utility>
+
+namespace tarvin {
+
+LinuxDesktop::LinuxDesktop(
+    const QStringList& arguments, std::function<RuntimeLog&()> runtimeLog, std::function<void(const QString&)> tellUser)
+    : log([this, runtimeLog = std::move(runtimeLog)](
+              const QString& line) { scheduler.post([runtimeLog, line] { runtimeLog().log(line); }); })
+    , files(posix::applicationSupportDirectory())
+    , preferences(files, posix::settingsFile(), log, &scheduler)
+    , processInfo(arguments)
+    , scripts(desktop::LinuxScripts::accessPageCandidates(processInfo.executable()),
+          {.toggleMicrophone = [this] { return actions.toggleMicrophone(); },
+              .activateFileManager = [this] { actions.activateFileManager(); }})
+    , loginItem(processInfo.executable(), desktop::AutostartLoginItem::defaultDirectories())
+    , inputThread(scheduler, {}, log)
+    , sessionTaps(inputThread)
+    , tapClient(scheduler, evdev::TapClient::defaultSocketPath(), log)
+    , inputTaps(sessionTaps, tapClient)
+    , keyRecording(inputThread, {}, [this](bool isRecording) { inputTaps.setRecording(isRecording); })
+    , connection(scheduler, console)
+    , shell(scheduler, connection)
+    , applications(scheduler, desktop::ApplicationLocations::fromEnvironment())
+    , applicationFolders(desktop::ApplicationLocations::fromEnvironment())
+    , workspace(
+          connection, applications, scheduler, [this](const QString& url) { shell.openUrls({url}, {}); },
+          qGuiApp->devicePixelRatio())
+    , poster(inputThread,
+          {.isTerminalInFront = [this] { return workspace.isTerminalInFront(); },
+              .perform =
+                  [this](x11::DesktopFunction function) {
+                      actions.functions.perform(function);
+                      return true;
+                  },
+              .log = log},
+          [] { return qGuiApp->devicePixelRatio(); })
+    , pointer(inputThread, [] { return qGuiApp->devicePixelRatio(); })
+    , permission([this] { return sessionTaps.isAvailable() || tapClient.isPresent(); })
+    , sounds(log)
+    , powerSources(QDBusConnection::systemBus())
+    , pasteboard(scheduler)
+    , actions({.scheduler = scheduler,
+                  .connection = connection,
+                  .applications = applications,
+                  .workspace = workspace,
+                  .pixelsPerPoint = qGuiApp->devicePixelRatio()},
+          std::move(tellUser))
+{ }
+
+Platform LinuxDesktop::ports()
+{
+    return {
+        .scheduler = scheduler,
+        .inputTaps = inputTaps,
+        .eventPoster = poster,
+        .pointer = pointer,
+        .permission = permission,
+        .workspace = workspace,
+        .preferences = preferences,
+        .files = files,
+        .console = console,
+        .processInfo = processInfo,
+        .scripts = scripts,
+        .loginItem = loginItem,
+        .functionKeySetting = functionKeySetting,
+        .appShell = shell,
+        .sounds = sounds,
+        .haptics = haptics,
+        .powerSources = powerSources,
+        .uuids = uuids,
+        .systemKeys = actions.systemKeys,
+        .displayBrightness = actions.backlight,
+        .systemCommands = actions.systemCommands,
+        .loginWindow = actions.sessionEnd,
+        .appleMenu = actions.appleMenu,
+        .windowControl = actions.windowControl,
+        .screens = actions.screens,
+        .applicationControl = actions.applicationControl,
+        .pasteboard = pasteboard,
+        .userEnvironment = userEnvironment,
+        .keyRecording = keyRecording,
+        .applicationFolders = applicationFolders,
+    };
+}
+
+} // namespace tarvin

@@ -1,0 +1,128 @@
+#include "app/LinuxDoctor.h"
+
+#include "actions/TestEnvironment.h"
+#include "app/ControlPaths.h"
+#include "app/cli/CommandMessages.h"
+#include "platform/linux/desktop/ControlSocket.h"
+#include "platform/linux/desktop/LinuxProcessInfo.h"
+#include "platform/linux/x11/XCapabilities.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <array>
+
+#include <unistd.h>
+
+namespace tarvin {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto answerTimeout = 3s;
+
+/// The socket of the daemon that takes keys from the kernel.
+const QString daemonSocket = QStringLiteral("/run/tarvin/tapd.sock");
+const QString daemonName = QStringLiteral("tarvin-tapd");
+
+/// Programs that read keyboards as a matter of course, and take no keys from others.
+constexpr std::array<QStringView, 9> harmlessReaders = {u"Xorg", u"Xwayland", u"systemd-logind", u"systemd",
+    u"gnome-shell", u"kwin_wayland", u"sway", u"acpid", u"tarvin-tapd"};
+
+bool isDaemonInstalled()
+{
+    return std::ranges::any_of(std::array{"/usr/libexec/tarvin/", "/usr/local/libexec/tarvin/", "/usr/bin/"},
+        [](const char* folder) { return QFileInfo::exists(QString::fromLatin1(folder) + daemonName); });
+}
+
+/// Who has a device of an input open, as far as this user may see: other users' processes hide theirs.
+QStringList keyboardHolders()
+{
+    QStringList holders;
+    const QStringList processes = QDir(QStringLiteral("/proc")).entryList({QStringLiteral("[0-9]*")}, QDir::Dirs);
+    for (const QString& process : processes) {
+        const QString folder = QStringLiteral("/proc/") + process;
+        QFile nameFile(folder + QStringLiteral("/comm"));
+        if (!nameFile.open(QIODevice::ReadOnly))
+            continue;
+        const QString name = QString::fromUtf8(nameFile.readAll()).trimmed();
+        if (std::ranges::find(harmlessReaders, QStringView(name)) != harmlessReaders.end())
+            continue;
+        const QFileInfoList descriptors =
+            QDir(folder + QStringLiteral("/fd")).entryInfoList(QDir::Files | QDir::System | QDir::NoDotAndDotDot);
+        const bool readsInput = std::ranges::any_of(descriptors,
+            [](const QFileInfo& descriptor) { return descriptor.symLinkTarget().startsWith(u"/dev/input/event"); });
+        if (readsInput)
+            holders += QStringLiteral("%1 (process %2)").arg(name, process);
+    }
+    return holders;
+}
+
+void askProgram(DoctorFacts& facts)
+{
+    auto connection = desktop::ControlConnection::open(ControlPaths::fromEnvironment().control);
+    facts.isRunning = connection.has_value();
+    if (!connection
+        || !connection->send(
+            toLine(CommandRequest{.command = QStringLiteral("status"), .words = {QStringLiteral("--json")}})))
+        return;
+    const auto line = connection->readLine(answerTimeout);
+    const auto reply = line ? commandReplyFromLine(*line) : std::nullopt;
+    facts.isAnswering = reply.has_value();
+    if (reply)
+        facts.status = QJsonDocument::fromJson(reply->output.toUtf8()).object();
+}
+
+bool hasSoundServer()
+{
+    const QString given = qEnvironmentVariable("PULSE_SERVER");
+    if (given.startsWith(u"unix:"))
+        return QFileInfo::exists(given.mid(5));
+    return !given.isEmpty()
+        || QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/pulse/native"));
+}
+
+bool hasStatusNotifier()
+{
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    return bus.isConnected()
+        && bus.interface()->isServiceRegistered(QStringLiteral("org.kde.StatusNotifierWatcher")).value();
+}
+
+} // namespace
+
+DoctorFacts lookAtThisMachine(const QStringList& arguments)
+{
+    DoctorFacts facts;
+    facts.version = QStringLiteral(TARVIN_VERSION);
+    facts.qtVersion = QString::fromLatin1(qVersion());
+    facts.sessionType = qEnvironmentVariable("XDG_SESSION_TYPE");
+    facts.desktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP");
+    facts.display = qEnvironmentVariable("DISPLAY");
+    if (const auto server = facts.display.isEmpty() ? std::nullopt : x11::askXServer()) {
+        facts.xServerAnswers = true;
+        facts.xInputVersion = server->xInputVersion;
+        facts.hasTestExtension = server->hasTestExtension;
+        facts.isInsideWayland = server->isInsideWayland;
+        facts.isKeyboardTaken = server->isKeyboardTaken;
+        facts.hasXTray = server->hasTray;
+    }
+    facts.isDaemonReachable = access(QFile::encodeName(daemonSocket).constData(), R_OK | W_OK) == 0;
+    facts.isDaemonInstalled = facts.isDaemonReachable || isDaemonInstalled();
+    facts.keyboardHolders = keyboardHolders();
+    askProgram(facts);
+    const desktop::LinuxProcessInfo processInfo(arguments);
+    facts.testSafeCause = facts.isAnswering ? facts.status.value(u"testSafeMode").toString()
+                                            : TestEnvironment(processInfo).cause().value_or(QString());
+    facts.hasSoundServer = hasSoundServer();
+    facts.hasStatusNotifier = hasStatusNotifier();
+    return facts;
+}
+
+} // namespace tarvin

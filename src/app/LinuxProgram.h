@@ -1,0 +1,13 @@
+#pragma once
+
+#include "app/CommandLine.h"
+
+namespace tarvin {
+
+/// Runs the resident program on this desktop until it is asked to end, or hands the request to the one that runs
+/// already.
+/// @param argumentCount, arguments as `main` got them; they live as long as the process
+/// @return the exit code of the process
+[[nodiscard]] int runLinuxProgram(int& argumentCount, char** arguments);
+
+} // namespace tarvin

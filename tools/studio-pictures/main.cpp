@@ -1,0 +1,148 @@
+// Draws the Studio in its states into files, without a display: the pictures of the documents, and something to look at
+// when its look is changed.
+//
+//   tarvin-studio-pictures FOLDER
+
+#include "app/core/NoToolPanelWindows.h"
+#include "app/core/SharedObjects.h"
+#include "interception/AccessibilityHelper.h"
+#include "interception/EventTapManager.h"
+#include "interception/FnKeyModeHelper.h"
+#include "platform/simulated/SimulatedPlatform.h"
+#include "profiles/KeyProfile.h"
+#include "shell/BackgroundModeManager.h"
+#include "shell/BatteryHelper.h"
+#include "shell/KeyboardTactileEngine.h"
+#include "studio/StudioBody.h"
+#include "studio/StudioWindow.h"
+#include "studio/TarvinLogoView.h"
+#include "studio/keyboard/MacBookAirKeyboardView.h"
+#include "ui/InterfaceStyle.h"
+#include "ui/Palette.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QLayout>
+#include <QPainter>
+
+#include <array>
+#include <cstdio>
+#include <functional>
+#include <utility>
+
+namespace {
+
+using namespace tarvin;
+
+constexpr std::array scales{1, 2};
+
+/// One state of the Studio on a desktop in memory.
+class Scene
+{
+public:
+    Scene()
+    {
+        m_platform.powerSources().setSources(std::vector<PowerSource>{{.currentCapacity = 76, .isCharging = false}});
+    }
+
+    KeyProfile& profile() { return m_objects.keyProfile(); }
+    simulated::SimulatedPlatform& platform() { return m_platform; }
+
+    void customise(std::initializer_list<std::pair<FKey, KeyAction>> keys)
+    {
+        for (const auto& [key, action] : keys)
+            profile().setAction(action, key);
+    }
+
+    /// @param prepare the last touch, when the window is there
+    void draw(const QString& file, const std::function<void(Scene&, StudioWindow&)>& prepare = {})
+    {
+        m_objects.eventTapManager().start();
+        StudioWindow window({.keyProfile = profile(),
+                                .eventTapManager = m_objects.eventTapManager(),
+                                .fnKeyModeHelper = m_objects.fnKeyModeHelper(),
+                                .batteryHelper = m_objects.batteryHelper(),
+                                .tactileEngine = m_objects.keyboardTactileEngine(),
+                                .backgroundModeManager = m_objects.backgroundModeManager(),
+                                .accessibilityHelper = m_objects.accessibilityHelper(),
+                                .openKeyboardSettings = [] {}},
+            {});
+        // Before the window is shown nothing moves, so what is drawn is at rest.
+        if (prepare)
+            prepare(*this, window);
+        window.ensurePolished();
+        window.layout()->activate();
+        for (const int scale : scales) {
+            QImage image(window.size() * scale, QImage::Format_RGB32);
+            image.setDevicePixelRatio(scale);
+            window.render(&image);
+            image.save(QStringLiteral("%1-%2x.png").arg(file).arg(scale));
+        }
+    }
+
+    void notice(const QString& text) { m_objects.eventTapManager().recordTriggerDirectly(text); }
+
+private:
+    simulated::SimulatedPlatform m_platform;
+    NoToolPanelWindows m_panels;
+    SharedObjects m_objects{m_platform.ports(), m_panels};
+};
+
+constexpr std::initializer_list<std::pair<FKey, KeyAction>> dozen = {{FKey::f1, KeyAction::screenCapture},
+    {FKey::f2, KeyAction::snapWindowLeft}, {FKey::f3, KeyAction::snapWindowRight},
+    {FKey::f5, KeyAction::clipboardHistory}, {FKey::f6, KeyAction::toggleMicMute},
+    {FKey::f8, KeyAction::showActionsRing}, {FKey::f9, KeyAction::floatingScratchpad},
+    {FKey::f12, KeyAction::openWebURL}, {FKey::capsLock, KeyAction::actionChain},
+    {FKey::fnGlobe, KeyAction::aiAssistant}, {FKey::rightCommand, KeyAction::lockScreen},
+    {FKey::rightOption, KeyAction::quickAppFlip}};
+
+void drawLogo(const QString& file)
+{
+    QImage image(1040, 420, QImage::Format_RGB32);
+    image.setDevicePixelRatio(1);
+    image.fill(palette::windowBackground.toQColor());
+    QPainter painter(&image);
+    double x = 90;
+    for (const LogoGlow glow : {LogoGlow::shining, LogoGlow::none}) {
+        for (const double size : {16.0, 32.0, 64.0, 200.0}) {
+            paintTarvinLogo(painter, {x, 300 - size, size, size}, glow);
+            x += size + 40;
+        }
+    }
+    painter.end();
+    image.save(file + QStringLiteral(".png"));
+}
+
+} // namespace
+
+int main(int argumentCount, char** arguments)
+{
+    if (argumentCount != 2) {
+        std::fprintf(stderr, "usage: tarvin-studio-pictures FOLDER\n");
+        return 2;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argumentCount, arguments);
+    InterfaceStyle::install();
+    const QString folder = QString::fromLocal8Bit(arguments[1]) + QStringLiteral("/studio");
+
+    Scene().draw(folder + QStringLiteral("-empty"));
+    Scene customised;
+    customised.customise(dozen);
+    customised.draw(folder + QStringLiteral("-customised"),
+        [](Scene& scene, StudioWindow&) { scene.notice(QStringLiteral("F5 ➔ Clipboard History")); });
+    Scene paused;
+    paused.customise(dozen);
+    paused.profile().setFunctionKeysEnabled(false);
+    paused.draw(folder + QStringLiteral("-paused"));
+    Scene selected;
+    selected.customise(dozen);
+    selected.draw(folder + QStringLiteral("-selected"),
+        [](Scene&, StudioWindow& window) { window.content().body().keyboard().setSelectedKey(FKey::f5); });
+    Scene waiting;
+    waiting.customise({{FKey::f5, KeyAction::clipboardHistory}, {FKey::capsLock, KeyAction::actionChain}});
+    waiting.platform().permission().setTrusted(false);
+    waiting.draw(folder + QStringLiteral("-without-permission"));
+    drawLogo(folder + QStringLiteral("-logo"));
+    return 0;
+}
