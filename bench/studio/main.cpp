@@ -1,0 +1,170 @@
+// What it costs to show the Studio: the first frame, a frame of a key that moves, a frame of a window that is resized.
+// Run without a display it draws into memory; with QT_QPA_PLATFORM=xcb and DISPLAY it shows real windows.
+
+#include "app/core/NoToolPanelWindows.h"
+#include "app/core/SharedObjects.h"
+#include "interception/AccessibilityHelper.h"
+#include "interception/EventTapManager.h"
+#include "interception/FnKeyModeHelper.h"
+#include "platform/simulated/SimulatedPlatform.h"
+#include "profiles/KeyProfile.h"
+#include "shell/BackgroundModeManager.h"
+#include "shell/BatteryHelper.h"
+#include "shell/KeyboardTactileEngine.h"
+#include "studio/StudioBody.h"
+#include "studio/StudioWindow.h"
+#include "studio/keyboard/KeyButton.h"
+#include "studio/keyboard/MacBookAirKeyboardView.h"
+#include "ui/InterfaceStyle.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QImage>
+
+#include <benchmark/benchmark.h>
+
+namespace {
+
+using namespace tarvin;
+
+/// The managers with a dozen mappings, on a desktop in memory.
+class Managers
+{
+public:
+    Managers()
+    {
+        KeyProfile& profile = m_objects.keyProfile();
+        for (const FKey key : {FKey::f1, FKey::f2, FKey::f3, FKey::f5, FKey::f6, FKey::f8, FKey::f9, FKey::f12,
+                 FKey::capsLock, FKey::fnGlobe, FKey::rightCommand, FKey::rightOption})
+            profile.setAction(KeyAction::clipboardHistory, key);
+        m_objects.eventTapManager().start();
+    }
+
+    std::unique_ptr<StudioWindow> makeWindow()
+    {
+        return std::make_unique<StudioWindow>(StudioCollaborators{.keyProfile = m_objects.keyProfile(),
+                                                  .eventTapManager = m_objects.eventTapManager(),
+                                                  .fnKeyModeHelper = m_objects.fnKeyModeHelper(),
+                                                  .batteryHelper = m_objects.batteryHelper(),
+                                                  .tactileEngine = m_objects.keyboardTactileEngine(),
+                                                  .backgroundModeManager = m_objects.backgroundModeManager(),
+                                                  .accessibilityHelper = m_objects.accessibilityHelper(),
+                                                  .openKeyboardSettings = [] {}},
+            StudioSurfaces{});
+    }
+
+private:
+    simulated::SimulatedPlatform m_platform;
+    NoToolPanelWindows m_panels;
+    SharedObjects m_objects{m_platform.ports(), m_panels};
+};
+
+/// Tells when a widget has been painted.
+class PaintWatch : public QObject
+{
+public:
+    explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+
+    bool isPainted = false;
+
+protected:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        isPainted = isPainted || event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
+/// Until the toolkit has painted the first frame, keyboard and all, and sent it off.
+void showUntilPainted(StudioWindow& window)
+{
+    const PaintWatch watch(window.content().body().keyboard());
+    window.show();
+    while (!watch.isPainted)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+}
+
+/// Once per process: fonts, symbols, shadows and the window are made.
+void firstFrameEver(benchmark::State& state)
+{
+    static Managers managers;
+    static std::unique_ptr<StudioWindow> window;
+    for ([[maybe_unused]] auto _ : state) {
+        window = managers.makeWindow();
+        showUntilPainted(*window);
+    }
+    window->hide();
+}
+BENCHMARK(firstFrameEver)->Iterations(1)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+/// A window that was hidden comes back.
+void laterFirstFrame(benchmark::State& state)
+{
+    Managers managers;
+    const auto window = managers.makeWindow();
+    showUntilPainted(*window);
+    for ([[maybe_unused]] auto _ : state) {
+        window->hide();
+        showUntilPainted(*window);
+    }
+}
+BENCHMARK(laterFirstFrame)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+/// Everything, into an image of that scale.
+void paintWindow(benchmark::State& state)
+{
+    Managers managers;
+    const auto window = managers.makeWindow();
+    window->ensurePolished();
+    QImage image(window->size() * static_cast<double>(state.range(0)), QImage::Format_RGB32);
+    image.setDevicePixelRatio(static_cast<double>(state.range(0)));
+    for ([[maybe_unused]] auto _ : state)
+        window->render(&image);
+}
+BENCHMARK(paintWindow)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+
+/// What is painted again at each step of a key's way down, at that scale.
+void paintMovingKey(benchmark::State& state)
+{
+    Managers managers;
+    const auto window = managers.makeWindow();
+    window->ensurePolished();
+    MacBookAirKeyboardView& view = window->content().body().keyboard();
+    const QRect key = view.button(*keycapOf(FKey::f5)).geometry();
+    const double reach = keycapReach(view.drawnKey(*keycapOf(FKey::f5)).look());
+    const QRect region = QRectF(key).adjusted(-reach, -reach, reach, reach).toAlignedRect();
+    QImage image(view.size() * static_cast<double>(state.range(0)), QImage::Format_RGB32);
+    image.setDevicePixelRatio(static_cast<double>(state.range(0)));
+    for ([[maybe_unused]] auto _ : state)
+        view.render(&image, region.topLeft(), region, QWidget::DrawChildren);
+}
+BENCHMARK(paintMovingKey)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+
+/// Layout and painting for one more width.
+void resizeStep(benchmark::State& state)
+{
+    Managers managers;
+    const auto window = managers.makeWindow();
+    window->ensurePolished();
+    int width = 1200;
+    QImage image(QSize(1400, 800), QImage::Format_RGB32);
+    for ([[maybe_unused]] auto _ : state) {
+        width = width == 1200 ? 1203 : 1200;
+        window->resize(width, 800);
+        window->render(&image);
+    }
+}
+BENCHMARK(resizeStep)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argumentCount, char** arguments)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argumentCount, arguments);
+    InterfaceStyle::install();
+    benchmark::Initialize(&argumentCount, arguments);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
