@@ -1,5 +1,9 @@
 #include "platform/linux/x11/LocalKeyFilter.h"
 
+#include "platform/linux/x11/XcbHandles.h"
+#include "platform/linux/x11/XcbXkb.h"
+
+#include <QGuiApplication>
 #include <QKeyEvent>
 
 #include <utility>
@@ -11,16 +15,29 @@ namespace {
 /// No key has it.
 constexpr KeyCode noKeyCode = 0xFFFF;
 
+void askForRepeatsWithoutReleases(xcb_connection_t* connection)
+{
+    constexpr std::uint32_t flag = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
+    const XcbOwned<xcb_xkb_per_client_flags_reply_t> reply(xcb_xkb_per_client_flags_reply(
+        connection, xcb_xkb_per_client_flags(connection, XCB_XKB_ID_USE_CORE_KBD, flag, flag, 0, 0, 0), nullptr));
+}
+
 } // namespace
 
 LocalKeyFilter::LocalKeyFilter(InputShared& shared, InputTaps::LocalMonitorHandler handler)
     : m_shared(shared)
     , m_handler(std::move(handler))
-{ }
+{
+    if (const auto* const session = qGuiApp->nativeInterface<QNativeInterface::QX11Application>())
+        askForRepeatsWithoutReleases(session->connection());
+}
 
 bool LocalKeyFilter::eventFilter(QObject* watched, QEvent* event)
 {
     const QEvent::Type type = event->type();
+    // A release that comes from now on goes to another program.
+    if (type == QEvent::ApplicationStateChange && qGuiApp->applicationState() != Qt::ApplicationActive)
+        m_isDown.reset();
     if (type != QEvent::ShortcutOverride && type != QEvent::KeyPress && type != QEvent::KeyRelease)
         return false;
     // What a window gets from the server is spontaneous; what its widgets then get is the same event again.
@@ -43,9 +60,16 @@ bool LocalKeyFilter::eventFilter(QObject* watched, QEvent* event)
     return true;
 }
 
+KeyMotion LocalKeyFilter::motionOfPress(const QKeyEvent& event, Keycode keycode)
+{
+    const bool wasDown = m_isDown[keycode];
+    m_isDown.set(keycode);
+    return wasDown || event.isAutoRepeat() ? KeyMotion::repeat : KeyMotion::press;
+}
+
 EventVerdict LocalKeyFilter::judgeOverride(const QKeyEvent& event, Keycode keycode)
 {
-    const EventVerdict verdict = ask(event, keycode, event.isAutoRepeat() ? KeyMotion::repeat : KeyMotion::press);
+    const EventVerdict verdict = ask(event, keycode, motionOfPress(event, keycode));
     m_announced = {.keycode = keycode, .time = static_cast<ServerTime>(event.timestamp()), .verdict = verdict};
     m_pressVerdicts[keycode] = verdict;
     return verdict;
@@ -55,7 +79,7 @@ EventVerdict LocalKeyFilter::judgePress(const QKeyEvent& event, Keycode keycode)
 {
     const auto announced = std::exchange(m_announced, std::nullopt);
     if (!announced || announced->keycode != keycode || announced->time != static_cast<ServerTime>(event.timestamp()))
-        m_pressVerdicts[keycode] = ask(event, keycode, event.isAutoRepeat() ? KeyMotion::repeat : KeyMotion::press);
+        m_pressVerdicts[keycode] = ask(event, keycode, motionOfPress(event, keycode));
     return m_pressVerdicts[keycode];
 }
 
@@ -63,6 +87,7 @@ EventVerdict LocalKeyFilter::judgeRelease(const QKeyEvent& event, Keycode keycod
 {
     if (event.isAutoRepeat())
         return m_pressVerdicts[keycode];
+    m_isDown.reset(keycode);
     return ask(event, keycode, KeyMotion::release);
 }
 

@@ -8,6 +8,7 @@
 #include <QObject>
 
 #include <array>
+#include <bitset>
 #include <optional>
 
 class QKeyEvent;
@@ -17,8 +18,12 @@ namespace tarvin::x11 {
 /// Watches the key events on their way to the program's own windows. Main thread only.
 ///
 /// Qt asks about shortcuts before it sends the press itself, so the handler's verdict on a press is asked for at the
-/// first of the two and holds for both. Qt makes a held key go up and down again and again; the ups in between are not
-/// told to anyone and share the verdict on the press.
+/// first of the two and holds for both.
+///
+/// A held key is told as one press, repeats and one release. The server is asked to send it like that. By itself it
+/// sends a release before each repeat, and Qt knows such a release only by the press behind it, which on a busy machine
+/// has not always been read by then: one stroke would look like many. Where the server refuses, Qt's word is taken, and
+/// the releases in between are told to nobody and share the verdict on the press.
 class LocalKeyFilter final : public QObject
 {
 public:
@@ -27,6 +32,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    [[nodiscard]] KeyMotion motionOfPress(const QKeyEvent& event, Keycode keycode);
     [[nodiscard]] EventVerdict judgeOverride(const QKeyEvent& event, Keycode keycode);
     [[nodiscard]] EventVerdict judgePress(const QKeyEvent& event, Keycode keycode);
     [[nodiscard]] EventVerdict judgeRelease(const QKeyEvent& event, Keycode keycode);
@@ -45,6 +51,7 @@ private:
     InputTaps::LocalMonitorHandler m_handler;
     std::optional<AnnouncedPress> m_announced;
     std::array<EventVerdict, keycodeCount> m_pressVerdicts{};
+    std::bitset<keycodeCount> m_isDown; ///< as far as our windows have been told
 };
 
 } // namespace tarvin::x11

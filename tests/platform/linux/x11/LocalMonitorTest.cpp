@@ -183,6 +183,31 @@ TEST_F(LocalMonitor, aHeldKeyIsToldAsRepeatsWithoutReleasesInBetween)
     EXPECT_EQ(window->keys, "");
 }
 
+TEST_F(LocalMonitor, aHeldKeyIsNotReleasedBetweenItsRepeatsEither)
+{
+    keyboard->press(KEY_A);
+    EXPECT_TRUE(eventually([&] { return seen.find("*a *a") != std::string::npos; })) << seen;
+    keyboard->release(KEY_A);
+    const std::string keys = takeWindowKeys();
+    EXPECT_EQ(keys.find("-a"), keys.size() - 2) << keys;
+    EXPECT_EQ(keys.find('~'), std::string::npos) << keys;
+}
+
+TEST_F(LocalMonitor, aKeyThatWasReleasedElsewhereBeginsAnewHere)
+{
+    keyboard->press(KEY_F5);
+    EXPECT_TRUE(eventually([&] { return seen == "+f5"; })) << seen;
+    window->hide();
+    ASSERT_TRUE(eventually([] { return QGuiApplication::applicationState() != Qt::ApplicationActive; }));
+    keyboard->release(KEY_F5);
+    seen.clear();
+    window->show();
+    window->requestActivate();
+    ASSERT_TRUE(eventually([this] { return QGuiApplication::focusWindow() == window.get(); }));
+    keyboard->tap(KEY_F5);
+    EXPECT_EQ(takeSeen(), "+f5 -f5");
+}
+
 TEST_F(LocalMonitor, whatWePostIsKnownAgain)
 {
     verdict = [](const InputEvent& event) { return event.isSelfPosted() ? EventVerdict::consume : EventVerdict::pass; };
