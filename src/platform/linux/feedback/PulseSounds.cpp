@@ -1,8 +1,7 @@
 #include "platform/linux/feedback/PulseSounds.h"
 
 #include "platform/linux/feedback/ClickSound.h"
-
-#include <pulse/pulseaudio.h>
+#include "platform/linux/pulse/PulseLibrary.h"
 
 #include <chrono>
 #include <deque>
@@ -13,6 +12,7 @@ namespace tarvin::feedback {
 namespace {
 
 using namespace std::chrono_literals;
+using pulse::PulseLibrary;
 using Clock = std::chrono::steady_clock;
 
 /// How soon after a failure the server is looked for again.
@@ -20,20 +20,20 @@ constexpr auto pauseBetweenAttempts = 5s;
 
 struct MainLoopFree
 {
-    void operator()(pa_threaded_mainloop* loop) const { pa_threaded_mainloop_free(loop); }
+    void operator()(pa_threaded_mainloop* loop) const { PulseLibrary::load()->threadedMainloopFree(loop); }
 };
 struct ContextFree
 {
     void operator()(pa_context* context) const
     {
-        pa_context_set_state_callback(context, nullptr, nullptr);
-        pa_context_disconnect(context);
-        pa_context_unref(context);
+        PulseLibrary::load()->contextSetStateCallback(context, nullptr, nullptr);
+        PulseLibrary::load()->contextDisconnect(context);
+        PulseLibrary::load()->contextUnref(context);
     }
 };
 struct OperationFree
 {
-    void operator()(pa_operation* operation) const { pa_operation_unref(operation); }
+    void operator()(pa_operation* operation) const { PulseLibrary::load()->operationUnref(operation); }
 };
 using MainLoop = std::unique_ptr<pa_threaded_mainloop, MainLoopFree>;
 using Context = std::unique_ptr<pa_context, ContextFree>;
@@ -46,9 +46,9 @@ public:
     explicit LoopLock(pa_threaded_mainloop* loop)
         : m_loop(loop)
     {
-        pa_threaded_mainloop_lock(m_loop);
+        PulseLibrary::load()->threadedMainloopLock(m_loop);
     }
-    ~LoopLock() { pa_threaded_mainloop_unlock(m_loop); }
+    ~LoopLock() { PulseLibrary::load()->threadedMainloopUnlock(m_loop); }
     LoopLock(const LoopLock&) = delete;
     LoopLock& operator=(const LoopLock&) = delete;
 
@@ -84,7 +84,7 @@ public:
             const LoopLock lock(m_loop.get());
             m_context.reset();
         }
-        pa_threaded_mainloop_stop(m_loop.get());
+        m_pulse->threadedMainloopStop(m_loop.get());
     }
     Server(const Server&) = delete;
     Server& operator=(const Server&) = delete;
@@ -121,7 +121,7 @@ public:
             return;
         }
         const std::size_t known = position < m_sounds.size() ? position : 0;
-        const Operation started(pa_context_play_sample(
+        const Operation started(m_pulse->contextPlaySample(
             m_context.get(), cacheName(known).constData(), nullptr, PA_VOLUME_INVALID, nullptr, nullptr));
     }
 
@@ -138,8 +138,13 @@ private:
     {
         if (m_loop)
             return true;
-        MainLoop loop(pa_threaded_mainloop_new());
-        if (!loop || pa_threaded_mainloop_start(loop.get()) < 0)
+        m_pulse = PulseLibrary::load();
+        if (m_pulse == nullptr) {
+            complainOf(QStringLiteral("the library libpulse0 is not installed"));
+            return false;
+        }
+        MainLoop loop(m_pulse->threadedMainloopNew());
+        if (!loop || m_pulse->threadedMainloopStart(loop.get()) < 0)
             return false;
         m_loop = std::move(loop);
         return true;
@@ -147,13 +152,13 @@ private:
 
     [[nodiscard]] bool isConnected() const
     {
-        return m_context && pa_context_get_state(m_context.get()) == PA_CONTEXT_READY;
+        return m_context && m_pulse->contextGetState(m_context.get()) == PA_CONTEXT_READY;
     }
 
     /// Does nothing while a connection stands or is being made.
     void connectIfLost()
     {
-        if (m_context && PA_CONTEXT_IS_GOOD(pa_context_get_state(m_context.get())))
+        if (m_context && PA_CONTEXT_IS_GOOD(m_pulse->contextGetState(m_context.get())))
             return;
         const Clock::time_point now = Clock::now();
         if (m_lastAttempt && now - *m_lastAttempt < pauseBetweenAttempts)
@@ -162,18 +167,18 @@ private:
         m_context.reset();
         m_uploads.clear();
         m_uploaded = 0;
-        m_context.reset(pa_context_new(pa_threaded_mainloop_get_api(m_loop.get()), "Tarvin"));
+        m_context.reset(m_pulse->contextNew(m_pulse->threadedMainloopGetApi(m_loop.get()), "Tarvin"));
         if (!m_context)
             return;
-        pa_context_set_state_callback(m_context.get(), &Server::contextChanged, this);
-        if (pa_context_connect(m_context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0)
+        m_pulse->contextSetStateCallback(m_context.get(), &Server::contextChanged, this);
+        if (m_pulse->contextConnect(m_context.get(), nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0)
             complain();
     }
 
     static void contextChanged(pa_context* context, void* self)
     {
         auto* const server = static_cast<Server*>(self);
-        switch (pa_context_get_state(context)) {
+        switch (server->m_pulse->contextGetState(context)) {
         case PA_CONTEXT_READY:
             server->m_lastComplaint.clear();
             for (std::size_t position = 0; position < server->m_sounds.size(); ++position)
@@ -191,9 +196,10 @@ private:
         }
     }
 
-    void complain()
+    void complain() { complainOf(QString::fromUtf8(m_pulse->strerror(m_pulse->contextErrno(m_context.get())))); }
+
+    void complainOf(const QString& reason)
     {
-        const QString reason = QString::fromUtf8(pa_strerror(pa_context_errno(m_context.get())));
         if (reason == m_lastComplaint)
             return;
         m_lastComplaint = reason;
@@ -210,31 +216,33 @@ private:
     {
         const PcmSound& sound = m_sounds[position];
         const pa_sample_spec format{.format = PA_SAMPLE_S16NE, .rate = sound.rate, .channels = sound.channels};
-        pa_stream* const stream = pa_stream_new(m_context.get(), cacheName(position).constData(), &format, nullptr);
+        pa_stream* const stream =
+            m_pulse->streamNew(m_context.get(), cacheName(position).constData(), &format, nullptr);
         if (!stream)
             return;
         m_uploads.push_back(std::make_unique<Upload>(Upload{this, position}));
-        pa_stream_set_state_callback(stream, &Server::uploadChanged, m_uploads.back().get());
-        if (pa_stream_connect_upload(stream, bytesOf(sound)) < 0)
-            pa_stream_unref(stream);
+        m_pulse->streamSetStateCallback(stream, &Server::uploadChanged, m_uploads.back().get());
+        if (m_pulse->streamConnectUpload(stream, bytesOf(sound)) < 0)
+            m_pulse->streamUnref(stream);
     }
 
     static void uploadChanged(pa_stream* stream, void* data)
     {
         const auto* const upload = static_cast<const Upload*>(data);
         const PcmSound& sound = upload->server->m_sounds[upload->position];
-        switch (pa_stream_get_state(stream)) {
+        const PulseLibrary& pulse = *upload->server->m_pulse;
+        switch (pulse.streamGetState(stream)) {
         case PA_STREAM_READY:
-            pa_stream_write(stream, sound.samples.data(), bytesOf(sound), nullptr, 0, PA_SEEK_RELATIVE);
-            pa_stream_finish_upload(stream);
+            pulse.streamWrite(stream, sound.samples.data(), bytesOf(sound), nullptr, 0, PA_SEEK_RELATIVE);
+            pulse.streamFinishUpload(stream);
             break;
         case PA_STREAM_TERMINATED:
             // The server has taken it into its cache.
             ++upload->server->m_uploaded;
-            pa_stream_unref(stream);
+            pulse.streamUnref(stream);
             break;
         case PA_STREAM_FAILED:
-            pa_stream_unref(stream);
+            pulse.streamUnref(stream);
             break;
         case PA_STREAM_UNCONNECTED:
         case PA_STREAM_CREATING:
@@ -245,6 +253,7 @@ private:
     static std::size_t bytesOf(const PcmSound& sound) { return sound.samples.size() * sizeof(std::int16_t); }
 
     std::function<void(const QString&)> m_log;
+    const PulseLibrary* m_pulse = nullptr; ///< there as soon as there is a loop
     QString m_lastComplaint;
     std::deque<PcmSound> m_sounds; ///< what is uploaded keeps its place; the click is first
     std::vector<std::unique_ptr<Upload>> m_uploads; ///< of this connection, under way or done

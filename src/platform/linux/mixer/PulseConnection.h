@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/linux/mixer/PulseLibrary.h"
 #include "platform/linux/mixer/VolumeSteps.h"
+#include "platform/linux/pulse/PulseLibrary.h"
 
 #include <atomic>
 #include <functional>
@@ -9,6 +9,8 @@
 #include <string>
 
 namespace tarvin::mixer {
+
+using pulse::PulseLibrary;
 
 /// The default output, or the default input.
 enum class Direction { output, input };

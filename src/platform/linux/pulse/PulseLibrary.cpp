@@ -1,10 +1,10 @@
-#include "platform/linux/mixer/PulseLibrary.h"
+#include "platform/linux/pulse/PulseLibrary.h"
 
 #include <QLibrary>
 
 #include <optional>
 
-namespace tarvin::mixer {
+namespace tarvin::pulse {
 
 namespace {
 
@@ -36,11 +36,21 @@ std::optional<PulseLibrary> loadLibrary()
     loader.find(library.mainloopPrepare, "pa_mainloop_prepare");
     loader.find(library.mainloopPoll, "pa_mainloop_poll");
     loader.find(library.mainloopDispatch, "pa_mainloop_dispatch");
+    loader.find(library.threadedMainloopNew, "pa_threaded_mainloop_new");
+    loader.find(library.threadedMainloopFree, "pa_threaded_mainloop_free");
+    loader.find(library.threadedMainloopStart, "pa_threaded_mainloop_start");
+    loader.find(library.threadedMainloopStop, "pa_threaded_mainloop_stop");
+    loader.find(library.threadedMainloopLock, "pa_threaded_mainloop_lock");
+    loader.find(library.threadedMainloopUnlock, "pa_threaded_mainloop_unlock");
+    loader.find(library.threadedMainloopGetApi, "pa_threaded_mainloop_get_api");
     loader.find(library.contextNew, "pa_context_new");
     loader.find(library.contextConnect, "pa_context_connect");
     loader.find(library.contextDisconnect, "pa_context_disconnect");
     loader.find(library.contextUnref, "pa_context_unref");
     loader.find(library.contextGetState, "pa_context_get_state");
+    loader.find(library.contextSetStateCallback, "pa_context_set_state_callback");
+    loader.find(library.contextErrno, "pa_context_errno");
+    loader.find(library.contextPlaySample, "pa_context_play_sample");
     loader.find(library.contextGetSinkInfoByName, "pa_context_get_sink_info_by_name");
     loader.find(library.contextGetSourceInfoByName, "pa_context_get_source_info_by_name");
     loader.find(library.contextSetSinkVolumeByName, "pa_context_set_sink_volume_by_name");
@@ -52,6 +62,14 @@ std::optional<PulseLibrary> loadLibrary()
     loader.find(library.operationUnref, "pa_operation_unref");
     loader.find(library.cvolumeMax, "pa_cvolume_max");
     loader.find(library.cvolumeScale, "pa_cvolume_scale");
+    loader.find(library.streamNew, "pa_stream_new");
+    loader.find(library.streamUnref, "pa_stream_unref");
+    loader.find(library.streamConnectUpload, "pa_stream_connect_upload");
+    loader.find(library.streamSetStateCallback, "pa_stream_set_state_callback");
+    loader.find(library.streamGetState, "pa_stream_get_state");
+    loader.find(library.streamWrite, "pa_stream_write");
+    loader.find(library.streamFinishUpload, "pa_stream_finish_upload");
+    loader.find(library.strerror, "pa_strerror");
     return loader.isComplete() ? std::optional(library) : std::nullopt;
 }
 
@@ -63,4 +81,4 @@ const PulseLibrary* PulseLibrary::load()
     return library ? &*library : nullptr;
 }
 
-} // namespace tarvin::mixer
+} // namespace tarvin::pulse
