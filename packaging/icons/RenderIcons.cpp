@@ -2,7 +2,7 @@
 //
 //   tarvin-render-icons FOLDER     writes FOLDER/SIZExSIZE/apps/com.velmor.Tarvin.png
 
-#include "Logo.h"
+#include "studio/TarvinLogoView.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -21,7 +21,7 @@ int main(int argumentCount, char** arguments)
         image.fill(Qt::transparent);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        tarvin::drawLogo(painter, QRectF(0, 0, size, size));
+        tarvin::paintTarvinLogo(painter, QRectF(0, 0, size, size), tarvin::LogoGlow::none);
         painter.end();
         const QString place = QStringLiteral("%1/%2x%2/apps").arg(folder).arg(size);
         if (folder.isEmpty() || !QDir().mkpath(place)
