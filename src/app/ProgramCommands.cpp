@@ -16,8 +16,10 @@
 
 namespace tarvin {
 
-ProgramCommands::ProgramCommands(SharedObjects& objects, const QString& controlPath)
+ProgramCommands::ProgramCommands(
+    SharedObjects& objects, const QString& controlPath, std::function<QJsonObject()> platformStatus)
     : m_objects(objects)
+    , m_platformStatus(std::move(platformStatus))
     , m_socket(controlPath, [this](const QByteArray& line, desktop::ControlCaller& caller) { handle(line, caller); })
 { }
 
@@ -73,13 +75,17 @@ QJsonObject ProgramCommands::status() const
     for (const FKey key : profile.customKeys())
         keys.append(rawValue(key).toString());
     EventTapManager& taps = m_objects.eventTapManager();
-    return {{QStringLiteral("process"), static_cast<qint64>(QCoreApplication::applicationPid())},
+    QJsonObject fields{{QStringLiteral("process"), static_cast<qint64>(QCoreApplication::applicationPid())},
         {QStringLiteral("engineRunning"), taps.isRunning()},
         {QStringLiteral("hasPermission"), taps.hasAccessibilityPermission()},
         {QStringLiteral("currentProfile"), profile.currentProfile().id},
         {QStringLiteral("frontApplication"), profile.cachedFrontmostBundleId().value_or(QString())},
         {QStringLiteral("customKeys"), keys},
         {QStringLiteral("testSafeMode"), m_objects.testEnvironment().cause().value_or(QString())}};
+    const QJsonObject platform = m_platformStatus();
+    for (auto field = platform.begin(); field != platform.end(); ++field)
+        fields.insert(field.key(), field.value());
+    return fields;
 }
 
 CommandService& ProgramCommands::service()

@@ -3,6 +3,9 @@
 #include "app/cli/CommandService.h"
 #include "platform/linux/desktop/ControlSocket.h"
 
+#include <QJsonObject>
+
+#include <functional>
 #include <vector>
 
 namespace tarvin {
@@ -15,7 +18,9 @@ class ProgramCommands
 {
 public:
     /// Listens from now on; what comes waits for the event loop.
-    ProgramCommands(SharedObjects& objects, const QString& controlPath);
+    /// @param platformStatus what the platform adds to the answer to `status`. By the time it returns, the keys that
+    /// the answer names are taken from the session.
+    ProgramCommands(SharedObjects& objects, const QString& controlPath, std::function<QJsonObject()> platformStatus);
     ~ProgramCommands();
     ProgramCommands(const ProgramCommands&) = delete;
     ProgramCommands& operator=(const ProgramCommands&) = delete;
@@ -28,6 +33,7 @@ private:
     [[nodiscard]] CommandService& service();
 
     SharedObjects& m_objects;
+    std::function<QJsonObject()> m_platformStatus;
     std::optional<CommandService> m_service;
     std::vector<desktop::ControlCaller*> m_watchers;
     desktop::ControlSocket m_socket;

@@ -271,6 +271,8 @@ CommandReply CommandService::status(const QStringList& words) const
             fields.value(u"engineRunning").toBool() ? QStringLiteral("yes") : QStringLiteral("no")});
         rows.append({QStringLiteral("Application in front"), fields.value(u"frontApplication").toString()});
         QStringList keys;
+        if (const QJsonValue installed = fields.value(u"installedApplications"); !installed.isUndefined())
+            rows.append({QStringLiteral("Applications known"), QString::number(installed.toInteger())});
         const QJsonArray custom = fields.value(u"customKeys").toArray();
         for (const auto& key : custom)
             keys += key.toString();
