@@ -10,7 +10,7 @@ import subprocess
 import tempfile
 import time
 
-PATIENCE = 20  # seconds until something that should happen counts as missing
+PATIENCE = 30  # seconds until something that should happen counts as missing
 
 
 class Missing(Exception):

@@ -19,7 +19,7 @@ class Actions(Session):
     def start_program(self, *arguments):
         process = super().start_program(*arguments)
         until("the end of the start", lambda: "Startup launch handled" in self.log())
-        time.sleep(QUIET)  # the keys are taken on another thread
+        self.settle()
         return process
 
     def resident(self, record):
@@ -28,7 +28,7 @@ class Actions(Session):
         return self.start_program("--startup")
 
     def is_told(self, line):
-        until(f"the notice: {line}", lambda: f"[Tarvin] {line}" in self.log(), patience=8)
+        until(f"the notice: {line}", lambda: f"[Tarvin] {line}" in self.log())
 
     def frame_of(self, application):
         """Place and size of the window with its frame, as the server has them."""
@@ -45,7 +45,7 @@ class Actions(Session):
 
     def until_frame(self, application, frame):
         until(f"the window at {frame}, it is at {self.frame_of(application)}",
-              lambda: self.frame_of(application) == frame, patience=5)
+              lambda: self.frame_of(application) == frame)
 
     def has_state(self, application, state):
         return state.encode() in self.desktop.ask("xprop", "-id", application.window, "_NET_WM_STATE")
@@ -256,7 +256,7 @@ class Actions(Session):
         Application(self.desktop, "editor").come_to_front()
         self.resident({"action": "screen_capture", "screenCaptureMode": "Screen", "screenCaptureDestination": "File"})
         self.perform()
-        until("a picture", lambda: list(folder.glob("Screen Shot *.png")), patience=8)
+        until("a picture", lambda: list(folder.glob("Screen Shot *.png")))
         time.sleep(QUIET)
         pictures = list(folder.iterdir())
         self.assertEqual(len(pictures), 1)
@@ -295,7 +295,7 @@ class Actions(Session):
         self.begin_drawing()
         self.desktop.ask("xdotool", "mousemove", "80", "90", "mousedown", "1", "mousemove", "150", "160", "mousemove", "279",
                          "209", "mouseup", "1")
-        pictures = until("a picture", lambda: list(self.desktop.home.glob("Screen Shot *.png")), patience=8)
+        pictures = until("a picture", lambda: list(self.desktop.home.glob("Screen Shot *.png")))
         reference = self.desktop.home / "reference.png"
         self.desktop.picture(reference)
         cut = self.desktop.home / "cut.png"
@@ -326,9 +326,9 @@ class Actions(Session):
         self.resident({"action": "text_snippet", "textSnippet": "Kind regards"})
         field = TextField(self.desktop)
         self.perform()
-        until(f"the text, there is {field.texts()}", lambda: field.texts()[-1:] == ["Kind regards"], patience=8)
-        until("the old clipboard again", lambda: self.clipboard() == "what was copied before", patience=8)
-        self.assertEqual(field.texts(), ["Kind regards"])
+        field.until_holds("Kind regards")
+        until("the old clipboard again", lambda: self.clipboard() == "what was copied before")
+        self.assertEqual(field.text(), "Kind regards")
 
     def test_a_terminal_gets_its_own_keystroke_for_paste(self):
         need("xclip", "xterm")
@@ -347,9 +347,9 @@ class Actions(Session):
         self.desktop.until_in_front("TextTerminal")
         until("the terminal's program", received.exists)
         self.resident("paste")
-        time.sleep(1)  # the entries are read in the background
+        self.until_applications_are_known()
         self.perform()
-        until("the text in the terminal", lambda: received.read_text() == text.read_text(), patience=8)
+        until("the text in the terminal", lambda: received.read_text() == text.read_text())
 
     def clipboard(self):
         return self.desktop.ask("timeout", "2", "xclip", "-selection", "clipboard", "-o").decode()
@@ -361,13 +361,13 @@ class Actions(Session):
         (entries / "org.example.Tool.desktop").write_text(
             f"[Desktop Entry]\nType=Application\nName=Tool\nExec=touch {started}\n")
         self.resident({"action": "open_application", "customAppBundleId": "org.example.Tool"})
-        time.sleep(1)  # the entries are read in the background
+        self.until_applications_are_known()
         self.perform()
-        until("the start", started.exists, patience=8)
+        until("the start", started.exists)
 
     def test_an_application_that_is_not_there_is_told(self):
         self.resident("calculator")
-        time.sleep(1)
+        self.until_applications_are_known()
         self.perform()
         self.is_told("Not installed: Calculator")
 

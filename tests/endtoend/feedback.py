@@ -52,10 +52,10 @@ class Feedback(Session):
             # The server takes the sound when the Studio shows; a press right at that moment may be too early.
             self.press("+a 40ms -a 200ms")
             return self.clicks()
-        until("a click", click_heard, patience=10)
+        until("a click", click_heard)
         before = self.clicks()
         self.press("+s 40ms -s")
-        until("one more click", lambda: self.clicks() == before + 1, patience=6)
+        until("one more click", lambda: self.clicks() == before + 1)
 
     def test_with_sounds_off_it_is_silent(self):
         self.settings(Tarvin_SoundEnabled=False)

@@ -127,6 +127,7 @@ class MainJob(Session):
         entry = self.desktop.data / "applications" / "browser.desktop"
         entry.write_text(entry.read_text() + "Categories=Network;WebBrowser;\nMimeType=x-scheme-handler/http;x-scheme-handler/https;\n")
         self.start_program("--startup")
+        self.until_applications_are_known()
         for _ in range(2):
             browser.come_to_front()
             self.press("+f5 40ms -f5 250ms")

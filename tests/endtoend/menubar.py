@@ -51,7 +51,7 @@ class Panel:
             raise AssertionError(answer)
 
     def until_line(self, line):
-        until(f"{line} in {self.lines()}", lambda: line in self.lines(), patience=6)
+        until(f"{line} in {self.lines()}", lambda: line in self.lines())
 
 
 class MenuBar(Session):

@@ -36,7 +36,7 @@ class Resident(Session):
     def test_a_second_start_reaches_the_first(self):
         first = self.start_program("--startup")
         second = self.desktop.start(self.program)
-        self.assertEqual(second.wait(10), 0)
+        self.assertEqual(second.wait(30), 0)
         self.studio_is_in_front()
         self.assertIsNone(first.poll())
         self.assertIn("[Tarvin] applicationShouldHandleReopen called! hasVisibleWindows: false", self.log())
@@ -44,7 +44,7 @@ class Resident(Session):
     def test_an_address_of_the_scheme_reaches_the_first(self):
         self.start_program("--startup")
         second = self.desktop.start(self.program, "tarvin://anything")
-        self.assertEqual(second.wait(10), 0)
+        self.assertEqual(second.wait(30), 0)
         self.studio_is_in_front()
 
     def test_a_second_start_without_a_session_bus_reaches_the_first_too(self):
@@ -52,7 +52,7 @@ class Resident(Session):
         self.desktop.environment["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=/nonexistent"
         self.start_program("--startup")
         second = self.desktop.start(self.program)
-        self.assertEqual(second.wait(10), 0)
+        self.assertEqual(second.wait(30), 0)
         self.studio_is_in_front()
 
     def test_closing_the_studio_hides_it_and_the_keys_live_on(self):
@@ -75,7 +75,7 @@ class Resident(Session):
         application = Application(self.desktop, "editor")
         process = self.start_program("--startup")
         process.send_signal(signal.SIGTERM)
-        self.assertEqual(process.wait(10), 0)
+        self.assertEqual(process.wait(30), 0)
         application.come_to_front()
         self.press("+f5 40ms -f5")
         self.assertEqual(application.keys_pressed(1), ["F5"])

@@ -76,7 +76,7 @@ class Application:
             before = len(self.events())
             time.sleep(QUIET)
             return len(self.events()) == before >= at_least
-        until(f"{at_least} key events for {self.name}, which has {self.events()}", settled, patience=6)
+        until(f"{at_least} key events for {self.name}, which has {self.events()}", settled)
         return self.events()
 
     def keys_pressed(self, at_least=0):
@@ -123,7 +123,17 @@ class Session(unittest.TestCase):
         until("live keys", lambda: self.log().count("Keyboard interception engine active.") > lines_before
               or process.poll() is not None)
         self.assertIsNone(process.poll(), "the program ended by itself")
+        self.settle()
         return process
+
+    def settle(self):
+        """Returns when the running program has taken the keys that are customised now."""
+        self.desktop.ask(self.program, "status")
+
+    def until_applications_are_known(self):
+        def known():
+            return json.loads(self.desktop.ask(self.program, "status", "--json")).get("installedApplications", 0) > 0
+        until("the list of installed applications", known)
 
     def press(self, steps):
         subprocess.run([PRESS, *steps.split()], env=self.desktop.environment, check=True)
@@ -132,7 +142,7 @@ class Session(unittest.TestCase):
         """What fired, as "F5: Copy", in order."""
         def found():
             return re.findall(r"Intercepted Physical (\w+) -> Executing: (.*)", self.log())
-        until(f"{at_least} firings, there are {found()}", lambda: len(found()) >= at_least, patience=6)
+        until(f"{at_least} firings, there are {found()}", lambda: len(found()) >= at_least)
         time.sleep(QUIET)
         return [f"{key}: {title}" for key, title in found()]
 

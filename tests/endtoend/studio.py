@@ -63,7 +63,7 @@ class Studio(Session):
         return next((thing for thing in self.objects() if re.fullmatch(pattern, thing["name"])), None)
 
     def until_there(self, pattern):
-        return until(f'an object called "{pattern}"', lambda: self.object(pattern), patience=8)
+        return until(f'an object called "{pattern}"', lambda: self.object(pattern))
 
     def press_control(self, name):
         self.assertIs(self.ask("press", "Tarvin", name), True, f'"{name}" can be pressed')
@@ -116,13 +116,15 @@ class Studio(Session):
             self.assertIn("checked", self.object(name)["states"])
             self.press_control(name)
             until(f"{setting} off", lambda: self.setting(setting) is False)
-            self.assertNotIn("checked", self.object(name)["states"])
+            until(f"{name} not checked", lambda: "checked" not in self.object(name)["states"])
         application.come_to_front()
+        self.settle()
         self.press("+f5 40ms -f5")
         self.assertEqual(application.keys_pressed(1), ["F5"])
         for name, setting in (("Custom Keys", "Tarvin_InterceptionEnabled"), ("F1–F12", "Tarvin_FunctionKeysEnabled")):
             self.press_control(name)
             until(f"{setting} on", lambda: self.setting(setting) is True)
+        self.settle()
         self.press("+f5 40ms -f5")
         self.assertEqual(application.keys_pressed(2), ["F5", "g"])
         self.until_there(".*Shortcut.*")
@@ -166,8 +168,8 @@ class Studio(Session):
         self.map_keys(**{"global": {"F5": shortcut(5, "G")}})
         self.open_studio()
         self.press("+f5 40ms -f5")
-        notice = self.until_there(".*F5.*Shortcut.*")
-        self.assertIn("showing", notice["states"])
+        notice = until("the notice", lambda: next((thing for thing in self.objects() if "showing" in thing["states"]
+                                                   and re.fullmatch(".*F5.*Shortcut.*", thing["name"])), None))
         self.assertEqual(self.fired(1), ["F5: Shortcut (G)"])
         until("the notice gone", lambda: "showing" not in (self.object(re.escape(notice["name"])) or {"states": []})["states"])
 
@@ -175,7 +177,7 @@ class Studio(Session):
         process = self.open_studio()
         self.press_control("Other Keys")
         until("the switch off", lambda: "checked" not in self.object("Other Keys")["states"])
-        self.desktop.ask("xdotool", "getactivewindow", "key", "alt+F4")
+        self.desktop.ask("wmctrl", "-ic", self.desktop.active_window().decode())
         until("no window", lambda: b"Keyboard Studio" not in self.desktop.ask("xwininfo", "-root", "-tree")
               or b"IsViewable" not in self.desktop.ask("xwininfo", "-name", "Tarvin — MacBook Air Keyboard Studio"))
         self.press(SUMMON)

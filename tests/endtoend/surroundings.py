@@ -130,18 +130,30 @@ class Service:
 
 
 class TextField:
-    """An application with one text field."""
+    """An application with a text field, which has the keyboard."""
 
-    def __init__(self, desktop):
-        self.desktop = desktop
-        self.record = desktop.home / "text field"
-        with open(self.record, "wb") as file:
-            desktop.start(os.environ["TARVIN_TEXT_FIELD"], stdout=file)
-        until("the text field", lambda: "shown" in self.record.read_text())
-        desktop.until_in_front("text field")
+    def __init__(self, desktop, name="editor"):
+        entries = desktop.data / "applications"
+        entries.mkdir(exist_ok=True)
+        (entries / f"{name}.desktop").write_text(
+            f"[Desktop Entry]\nType=Application\nName={name}\nExec=field\nStartupWMClass={name}\n")
+        self.desktop, self.name, self.file = desktop, name, desktop.home / f"{name}.text"
+        self.process = desktop.start(os.environ["TARVIN_TEXT_FIELD_PROGRAM"], name, self.file)
+        until(f"the window of {name}", lambda: self._windows().strip())
+        self.come_to_front()
 
-    def texts(self):
-        return re.findall(r"^text (.*)$", self.record.read_text(), re.MULTILINE)
+    def _windows(self):
+        return self.desktop.ask("xdotool", "search", "--onlyvisible", "--name", f"^{self.name}$")
+
+    def come_to_front(self):
+        self.desktop.ask("xdotool", "windowactivate", "--sync", self._windows().split()[0].decode())
+        self.desktop.until_in_front(self.name)
+
+    def text(self):
+        return self.file.read_text()
+
+    def until_holds(self, text):
+        until(f"{text!r} in {self.name}, which holds {self.text()!r}", lambda: self.text() == text)
 
 
 __all__ = ["Player", "Service", "SoundServer", "SystemBus", "TextField", "need"]

@@ -1,7 +1,6 @@
 """The floating tools, for a user in an X session: opened by their keys, used with mouse and keyboard."""
 
 import json
-import os
 import re
 import shutil
 import stat
@@ -9,35 +8,9 @@ import time
 import unittest
 
 from session import QUIET, Application, Session, until
-
-TEXT_FIELD = os.environ.get("TARVIN_TEXT_FIELD_PROGRAM", "")
+from surroundings import TextField
 
 TOOL_KEYS = {"global": {"F5": "clipboard_history", "F6": "floating_scratchpad", "F7": "show_actions_ring"}}
-
-
-class TextField:
-    """An application with a text field that has the keyboard."""
-
-    def __init__(self, desktop, name):
-        entries = desktop.data / "applications"
-        entries.mkdir(exist_ok=True)
-        (entries / f"{name}.desktop").write_text(
-            f"[Desktop Entry]\nType=Application\nName={name}\nExec=field\nStartupWMClass={name}\n")
-        self.desktop, self.name, self.file = desktop, name, desktop.home / f"{name}.text"
-        self.process = desktop.start(TEXT_FIELD, name, self.file)
-        until(f"the window of {name}", lambda: desktop.ask("xdotool", "search", "--onlyvisible", "--name", f"^{name}$").strip())
-        self.come_to_front()
-
-    def come_to_front(self):
-        window = self.desktop.ask("xdotool", "search", "--onlyvisible", "--name", f"^{self.name}$").split()[0].decode()
-        self.desktop.ask("xdotool", "windowactivate", "--sync", window)
-        self.desktop.until_in_front(self.name)
-
-    def text(self):
-        return self.file.read_text()
-
-    def until_holds(self, text):
-        until(f"{text!r} in {self.name}, which holds {self.text()!r}", lambda: self.text() == text, patience=6)
 
 
 class ToolPanels(Session):
@@ -73,8 +46,10 @@ class ToolPanels(Session):
     def open(self, key, title):
         self.press(f"+{key} 40ms -{key}")
         self.desktop.until_in_front(title)
-        time.sleep(QUIET)  # the manager tells which window is in front before that has the keyboard
-        return self.desktop.active_window().decode()
+        window = self.desktop.active_window().decode()
+        # The manager tells which window is in front before that has the keyboard.
+        until(f"the keyboard for {title}", lambda: self.desktop.ask("xdotool", "getwindowfocus").strip() == b"%d" % int(window, 16))
+        return window
 
     def until_closed(self, title):
         until(f"{title} gone", lambda: not self.desktop.ask("xdotool", "search", "--onlyvisible", "--name", f"^{title}$"))
