@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <memory>
 
 namespace tarvin {
 
@@ -53,11 +54,16 @@ KeystrokeSynthesis::KeystrokeSynthesis(EventPoster& poster, Pointer& pointer, Sc
 
 void KeystrokeSynthesis::simulateKeyStroke(KeyCode keyCode, EventFlags flags, KeystrokeOrigin origin)
 {
-    if (m_testEnvironment.isRunningInTestEnvironment() || !m_poster.canMakeKey(keyCode))
+    if (!mayPost(keyCode))
         return;
     postKey(m_poster, KeyState::down, keyCode, flags, origin);
     m_scheduler.postAfter(keyReleaseDelay,
         [&poster = m_poster, keyCode, flags, origin] { postKey(poster, KeyState::up, keyCode, flags, origin); });
+}
+
+bool KeystrokeSynthesis::mayPost(KeyCode keyCode) const
+{
+    return !m_testEnvironment.isRunningInTestEnvironment() && m_poster.canMakeKey(keyCode);
 }
 
 void KeystrokeSynthesis::executeCustomShortcut(const CustomShortcut& shortcut)
@@ -113,7 +119,20 @@ void KeystrokeSynthesis::executeSequentialKeys(const QList<CustomShortcut>& shor
 {
     std::chrono::milliseconds delay{0};
     for (const CustomShortcut& shortcut : shortcuts) {
-        m_scheduler.postAfter(delay, [this, shortcut] { executeCustomShortcutDirect(shortcut); });
+        // A release counted from its press would come after the next press where the main loop was held up in between.
+        auto isDown = std::make_shared<bool>(false);
+        const auto post = [&poster = m_poster, shortcut](KeyState state) {
+            postKey(poster, state, shortcut.keyCode, eventFlags(shortcut), KeystrokeOrigin::recorded);
+        };
+        m_scheduler.postAfter(delay, [this, post, isDown, keyCode = shortcut.keyCode] {
+            *isDown = mayPost(keyCode);
+            if (*isDown)
+                post(KeyState::down);
+        });
+        m_scheduler.postAfter(delay + keyReleaseDelay, [post, isDown] {
+            if (*isDown)
+                post(KeyState::up);
+        });
         delay += sequenceStep;
     }
 }

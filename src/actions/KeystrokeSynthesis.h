@@ -43,12 +43,14 @@ public:
     void executeMultiKeyShortcuts(const QList<CustomShortcut>& shortcuts, MultiKeyPlaybackMode mode);
     /// All keys down in list order, each with the modifiers of all, and up again in reverse; in test-safe mode too.
     void executeSimultaneousKeys(const QList<CustomShortcut>& shortcuts);
-    /// One press after another.
+    /// One press after another. All have their place in time from the start, presses and releases, so that a late one
+    /// never gets behind the next.
     void executeSequentialKeys(const QList<CustomShortcut>& shortcuts);
     /// A click of the secondary button where the pointer is, in test-safe mode too.
     void simulateSecondaryClick();
 
 private:
+    [[nodiscard]] bool mayPost(KeyCode keyCode) const;
     void executeCustomShortcutDirect(const CustomShortcut& shortcut);
     void play(const QList<CustomShortcut>& shortcuts, MultiKeyPlaybackMode mode);
 

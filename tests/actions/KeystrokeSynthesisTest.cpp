@@ -89,6 +89,18 @@ TEST_F(KeystrokeSynthesisTest, aSequenceIsScheduledAtOnceInStepsOfFortyFiveMilli
             "60 up 2 shift recorded", "90 down 0 recorded", "105 up 0 recorded"}));
 }
 
+TEST_F(KeystrokeSynthesisTest, theKeysOfASequenceDoNotOverlapWhereTheMainLoopWasHeldUp)
+{
+    const QStringList seen = desktop.transcriptOf([&] {
+        desktop.synthesis.executeSequentialKeys({commandC, shiftD, plainA});
+        desktop.platform.scheduler().advance(std::chrono::milliseconds(44));
+        desktop.platform.scheduler().holdUp(std::chrono::milliseconds(100));
+    });
+    EXPECT_EQ(seen,
+        lines({"0 down 8 command recorded", "15 up 8 command recorded", "144 down 2 shift recorded",
+            "144 up 2 shift recorded", "144 down 0 recorded", "144 up 0 recorded"}));
+}
+
 TEST_F(KeystrokeSynthesisTest, everyKeyOfASequenceAsksForTestSafeModeItself)
 {
     const QStringList seen = desktop.transcriptOf([&] {

@@ -46,6 +46,8 @@ public:
     /// Lets time pass: every task runs at its own moment.
     void advance(VirtualTime duration);
     void advanceTo(VirtualTime moment);
+    /// Lets time pass while something else holds up the main loop: what becomes due waits for the next turn.
+    void holdUp(VirtualTime duration) { m_time += duration; }
     /// When the next task is due; absent if nothing waits.
     [[nodiscard]] std::optional<VirtualTime> nextDue() const;
     /// The same without repeating timers, which never come to an end.
