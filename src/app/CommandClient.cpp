@@ -27,7 +27,7 @@ using namespace std::chrono_literals;
 using desktop::ControlConnection;
 
 /// How long a program that has just started, or another command at work, is waited for.
-constexpr auto roadTimeout = 6s;
+constexpr auto roadTimeout = 20s;
 constexpr auto answerTimeout = 30s;
 constexpr auto pauseBetweenAttempts = 20ms;
 

@@ -64,7 +64,9 @@ public:
             [this](const QString& line) { tellUser(line); })
         , m_panels(m_desktop)
         , m_objects(m_desktop.ports(), m_panels)
-        , m_commands(m_objects, ControlPaths::fromEnvironment().control, [this] { return desktopStatus(); })
+        , m_commands(m_objects, ControlPaths::fromEnvironment().control,
+              {.settleKeys = [this] { m_desktop.inputThread.settle(); },
+                  .installedApplications = [this] { return m_desktop.applications.index().catalog.entries().size(); }})
     { }
 
     /// Until somebody asks the program to end.
@@ -120,13 +122,6 @@ private:
         while (desktop::InstanceLock(path).state() == desktop::InstanceLock::State::heldByAnother
             && !deadline.hasExpired())
             std::this_thread::sleep_for(5ms);
-    }
-
-    [[nodiscard]] QJsonObject desktopStatus()
-    {
-        m_desktop.inputThread.settle();
-        const auto installed = m_desktop.applications.index().catalog.entries().size();
-        return {{QStringLiteral("installedApplications"), static_cast<qint64>(installed)}};
     }
 
     void watchForTray()

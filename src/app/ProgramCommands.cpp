@@ -16,10 +16,9 @@
 
 namespace tarvin {
 
-ProgramCommands::ProgramCommands(
-    SharedObjects& objects, const QString& controlPath, std::function<QJsonObject()> platformStatus)
+ProgramCommands::ProgramCommands(SharedObjects& objects, const QString& controlPath, Surroundings surroundings)
     : m_objects(objects)
-    , m_platformStatus(std::move(platformStatus))
+    , m_surroundings(std::move(surroundings))
     , m_socket(controlPath, [this](const QByteArray& line, desktop::ControlCaller& caller) { handle(line, caller); })
 { }
 
@@ -38,6 +37,7 @@ void ProgramCommands::handle(const QByteArray& line, desktop::ControlCaller& cal
     const CommandReply reply = request
         ? service().perform(*request)
         : CommandReply{.exitCode = exitFailed, .error = QStringLiteral("the running program did not understand")};
+    m_surroundings.settleKeys();
     caller.send(toLine(reply));
     caller.finish();
 }
@@ -75,17 +75,14 @@ QJsonObject ProgramCommands::status() const
     for (const FKey key : profile.customKeys())
         keys.append(rawValue(key).toString());
     EventTapManager& taps = m_objects.eventTapManager();
-    QJsonObject fields{{QStringLiteral("process"), static_cast<qint64>(QCoreApplication::applicationPid())},
+    return {{QStringLiteral("process"), static_cast<qint64>(QCoreApplication::applicationPid())},
         {QStringLiteral("engineRunning"), taps.isRunning()},
         {QStringLiteral("hasPermission"), taps.hasAccessibilityPermission()},
         {QStringLiteral("currentProfile"), profile.currentProfile().id},
         {QStringLiteral("frontApplication"), profile.cachedFrontmostBundleId().value_or(QString())},
         {QStringLiteral("customKeys"), keys},
+        {QStringLiteral("installedApplications"), m_surroundings.installedApplications()},
         {QStringLiteral("testSafeMode"), m_objects.testEnvironment().cause().value_or(QString())}};
-    const QJsonObject platform = m_platformStatus();
-    for (auto field = platform.begin(); field != platform.end(); ++field)
-        fields.insert(field.key(), field.value());
-    return fields;
 }
 
 CommandService& ProgramCommands::service()

@@ -17,10 +17,16 @@ class SharedObjects;
 class ProgramCommands
 {
 public:
-    /// Listens from now on; what comes waits for the event loop.
-    /// @param platformStatus what the platform adds to the answer to `status`. By the time it returns, the keys that
-    /// the answer names are taken from the session.
-    ProgramCommands(SharedObjects& objects, const QString& controlPath, std::function<QJsonObject()> platformStatus);
+    /// What the commands ask of the platform.
+    struct Surroundings
+    {
+        std::function<void()> settleKeys; ///< returns when the keys that are customised now are taken from the session
+        std::function<qint64()> installedApplications; ///< how many are known
+    };
+
+    /// Listens from now on; what comes waits for the event loop. An answer goes out when what it tells is in force: a
+    /// press after it finds the key taken, or free.
+    ProgramCommands(SharedObjects& objects, const QString& controlPath, Surroundings surroundings);
     ~ProgramCommands();
     ProgramCommands(const ProgramCommands&) = delete;
     ProgramCommands& operator=(const ProgramCommands&) = delete;
@@ -33,7 +39,7 @@ private:
     [[nodiscard]] CommandService& service();
 
     SharedObjects& m_objects;
-    std::function<QJsonObject()> m_platformStatus;
+    Surroundings m_surroundings;
     std::optional<CommandService> m_service;
     std::vector<desktop::ControlCaller*> m_watchers;
     desktop::ControlSocket m_socket;
