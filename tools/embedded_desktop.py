@@ -65,8 +65,11 @@ class Desktop:
         self.environment["DISPLAY"] = f":{number}"
         bus = self.start("dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address=1", stdout=subprocess.PIPE)
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = bus.stdout.readline().decode().strip()
-        self.start("openbox")
-        until("a window manager", lambda: b"window id" in self.ask("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"))
+        # A manager that has announced itself may still overlook a window that comes right then. It runs this command
+        # when it has taken over all windows.
+        manages = self.home / "manages"
+        self.start("openbox", "--startup", f"touch {manages}")
+        until("a window manager", manages.exists)
 
     def __exit__(self, *_):
         for process in reversed(self.processes):

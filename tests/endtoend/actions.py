@@ -13,8 +13,7 @@ SCREEN_WIDTH, SCREEN_HEIGHT = 1280, 860
 
 class Actions(Session):
     def perform(self, key="f5"):
-        # What comes sooner after a press counts as the same one.
-        self.press(f"+{key} 40ms -{key} 400ms")
+        self.tap(key)
 
     def start_program(self, *arguments):
         process = super().start_program(*arguments)

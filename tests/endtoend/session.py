@@ -138,13 +138,20 @@ class Session(unittest.TestCase):
     def press(self, steps):
         subprocess.run([PRESS, *steps.split()], env=self.desktop.environment, check=True)
 
+    def tap(self, key):
+        """One press of a customised key that stands for itself: what comes too soon after another counts as the same."""
+        before = len(self.firings())
+        self.press(f"400ms +{key} 40ms -{key}")
+        until("the firing", lambda: len(self.firings()) > before)
+
+    def firings(self):
+        return re.findall(r"Intercepted Physical (\w+) -> Executing: (.*)", self.log())
+
     def fired(self, at_least=0):
         """What fired, as "F5: Copy", in order."""
-        def found():
-            return re.findall(r"Intercepted Physical (\w+) -> Executing: (.*)", self.log())
-        until(f"{at_least} firings, there are {found()}", lambda: len(found()) >= at_least)
+        until(f"{at_least} firings, there are {self.firings()}", lambda: len(self.firings()) >= at_least)
         time.sleep(QUIET)
-        return [f"{key}: {title}" for key, title in found()]
+        return [f"{key}: {title}" for key, title in self.firings()]
 
 
 def shortcut(key_code, display, **modifiers):

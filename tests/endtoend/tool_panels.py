@@ -44,7 +44,7 @@ class ToolPanels(Session):
         return [clip["text"] for clip in self.stored("Tarvin_ClipboardHistory_Items") or []]
 
     def open(self, key, title):
-        self.press(f"+{key} 40ms -{key}")
+        self.tap(key)
         self.desktop.until_in_front(title)
         window = self.desktop.active_window().decode()
         # The manager tells which window is in front before that has the keyboard.
@@ -110,7 +110,7 @@ class ToolPanels(Session):
         self.start_program("--startup")
         for key, title in (("f5", "Clipboard History"), ("f6", "Quick Scratchpad"), ("f7", "Actions Ring")):
             self.open(key, title)
-            self.press(f"+{key} 40ms -{key}")
+            self.tap(key)
             self.until_closed(title)
 
     def test_the_note_is_there_after_a_restart(self):
@@ -152,7 +152,7 @@ class ToolPanels(Session):
         self.open("f7", "Actions Ring")
         field.come_to_front()
         self.until_closed("Actions Ring")
-        self.press("+f7 40ms -f7 400ms")
+        self.tap("f7")
         self.desktop.until_in_front("editor")
         self.open("f7", "Actions Ring")
 
@@ -166,7 +166,7 @@ class ToolPanels(Session):
                 self.assertIn(wanted, state, title)
             desktop = self.desktop.ask("xprop", "-id", window, "_NET_WM_DESKTOP").decode()
             self.assertEqual("4294967295" in desktop, is_everywhere, title)
-            self.press(f"+{key} 40ms -{key}")
+            self.tap(key)
             self.until_closed(title)
 
     def test_a_panel_has_the_keyboard_also_while_the_studio_is_open(self):
