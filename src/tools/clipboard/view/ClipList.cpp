@@ -1,8 +1,7 @@
 #include "tools/clipboard/view/ClipList.h"
 
 #include "tools/clipboard/view/ClipRow.h"
-
-#include <QScrollBar>
+#include "ui/OverlayScrollBar.h"
 
 namespace tarvin {
 
@@ -16,27 +15,15 @@ constexpr int spacing = 4;
 ClipList::ClipList(QWidget* parent)
     : QScrollArea(parent)
     , m_stack(new QWidget)
-    , m_bar(new QScrollBar(Qt::Vertical, this))
 {
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFocusPolicy(Qt::NoFocus);
     viewport()->setAutoFillBackground(false);
     m_stack->setAutoFillBackground(false);
     setWidget(m_stack);
     m_stack->setAutoFillBackground(false);
-
-    // The area's own bar would take its room from the rows.
-    const QScrollBar* const hidden = verticalScrollBar();
-    connect(hidden, &QScrollBar::rangeChanged, m_bar, [this, hidden](int least, int most) {
-        m_bar->setRange(least, most);
-        m_bar->setPageStep(hidden->pageStep());
-        m_bar->setVisible(most > least);
-    });
-    connect(hidden, &QScrollBar::valueChanged, m_bar, &QScrollBar::setValue);
-    connect(m_bar, &QScrollBar::valueChanged, verticalScrollBar(), &QScrollBar::setValue);
-    m_bar->hide();
+    new OverlayScrollBar(*this, {0, 4, -1, 4});
 }
 
 void ClipList::show(const QList<ClipboardItem>& items)
@@ -78,13 +65,6 @@ ClipRow& ClipList::rowAt(qsizetype index)
         m_rows.push_back(row);
     }
     return *m_rows[place];
-}
-
-void ClipList::resizeEvent(QResizeEvent* event)
-{
-    QScrollArea::resizeEvent(event);
-    m_bar->setGeometry(width() - m_bar->sizeHint().width() + 1, 4, m_bar->sizeHint().width(), height() - 8);
-    m_bar->raise();
 }
 
 } // namespace tarvin

@@ -9,8 +9,6 @@
 
 #include <vector>
 
-class QScrollBar;
-
 namespace tarvin {
 
 class ClipRow;
@@ -34,14 +32,10 @@ Q_SIGNALS:
     void pinWanted(const tarvin::ClipboardItem& item);
     void deleteWanted(const tarvin::ClipboardItem& item);
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
     [[nodiscard]] ClipRow& rowAt(qsizetype index);
 
     QWidget* m_stack;
-    QScrollBar* m_bar;
     std::vector<ClipRow*> m_rows; ///< those beyond the items are hidden
     QList<ClipboardItem> m_items;
     QHash<QUuid, ClipText> m_texts;
