@@ -97,6 +97,7 @@ inline constexpr auto symbolRows = std::to_array<SymbolRow>({
     {.name = u"exclamationmark.shield.fill", .base = {.file = u"fill/shield-warning-fill.svg"}},
     {.name = u"eye.slash.fill", .base = {.file = u"fill/eye-slash-fill.svg"}},
     {.name = u"f.cursive", .base = {.file = u"bold/function-bold.svg", .scale = 1.12}},
+    {.name = u"folder", .base = {.file = u"bold/folder-bold.svg"}},
     {.name = u"folder.fill", .base = {.file = u"fill/folder-fill.svg"}},
     {.name = u"forward.fill", .base = {.file = u"fill/fast-forward-fill.svg"}},
     {.name = u"function", .base = {.file = u"bold/function-bold.svg"}},

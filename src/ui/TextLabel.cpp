@@ -34,6 +34,12 @@ void TextLabel::setSymbol(Symbol symbol, double size, const Colour& colour)
     update();
 }
 
+void TextLabel::setElided(bool elided)
+{
+    m_isElided = elided;
+    setSizePolicy(elided ? QSizePolicy::Preferred : QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
 double TextLabel::symbolWidth() const
 {
     return m_symbol ? m_symbolSize * symbolBoxPerSize : 0;
@@ -48,6 +54,12 @@ QSize TextLabel::sizeHint() const
     return {static_cast<int>(std::ceil(width)), static_cast<int>(std::ceil(height))};
 }
 
+QSize TextLabel::minimumSizeHint() const
+{
+    const QSize size = sizeHint();
+    return m_isElided ? QSize(static_cast<int>(std::ceil(symbolWidth())), size.height()) : size;
+}
+
 void TextLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
@@ -56,7 +68,9 @@ void TextLabel::paintEvent(QPaintEvent* /*event*/)
         drawSymbol(painter, *m_symbol, {symbolWidth() / 2, height() / 2.0}, m_symbolSize, m_symbolColour.toQColor());
         x = symbolWidth() + m_spacing;
     }
-    drawText(painter, {x, 0, width() - x, static_cast<double>(height())}, alignment(), text(), m_style, m_colour);
+    const QRectF room(x, 0, width() - x, height());
+    drawText(
+        painter, room, alignment(), m_isElided ? elidedText(text(), m_style, room.width()) : text(), m_style, m_colour);
 }
 
 } // namespace tarvin

@@ -22,11 +22,13 @@ public:
     void setColour(const Colour& colour);
     /// @param size as of a text beside it
     void setSymbol(Symbol symbol, double size, const Colour& colour);
+    /// Takes less room than its text where there is less, and ends with an ellipsis then. The symbol stays.
+    void setElided(bool elided);
     /// Between symbol and text.
     void setSpacing(double spacing) { m_spacing = spacing; }
 
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -40,6 +42,7 @@ private:
     double m_symbolSize = 0;
     Colour m_symbolColour;
     double m_spacing = 6;
+    bool m_isElided = false;
 };
 
 } // namespace tarvin
