@@ -1,12 +1,13 @@
 #include "actions/content/WebAddress.h"
 
+#include "model/DefaultTexts.h"
+
 #include <QUrl>
 
 namespace tarvin {
 
 namespace {
 
-constexpr QStringView defaultAddress = u"https://github.com";
 constexpr QStringView assistantPage = u"https://gemini.google.com/app";
 
 /// What a query may hold as it is, beside letters, digits and "-._~".
@@ -26,7 +27,7 @@ std::optional<QString> webAddress(const std::optional<QString>& written)
 {
     QString address = written.value_or(QString()).trimmed();
     if (address.isEmpty())
-        return defaultAddress.toString();
+        return defaultWebAddress.toString();
     if (!address.startsWith(u"http://") && !address.startsWith(u"https://"))
         address.prepend(u"https://");
     const QUrl url(address, QUrl::TolerantMode);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/DefaultTexts.h"
 #include "studio/cards/KeyRecord.h"
 #include "studio/cards/ParameterCard.h"
 
@@ -16,15 +17,17 @@ struct TextCard
     ParameterCard card;
     QStringView symbol; ///< in front of the field
     QStringView prompt;
-    /// What the field holds until the user writes something. A deployment may want others.
+    QStringView fieldName; ///< of the field, for assistive technology
+    /// What the field holds until the user writes something.
     QStringView defaultText;
     std::optional<QString> ConfiguredAction::*field; ///< where the record keeps the text
 };
 
 inline constexpr auto textCards = std::to_array<TextCard>({
-    {ParameterCard::openWebURL, u"globe", u"https://...", u"https://github.com", &ConfiguredAction::customURL},
-    {ParameterCard::textSnippet, u"character.cursor.ibeam", u"Enter text or signature...", u"support@tarvin.example",
-        &ConfiguredAction::textSnippet},
+    {ParameterCard::openWebURL, u"globe", u"https://...", u"Website address", defaultWebAddress,
+        &ConfiguredAction::customURL},
+    {ParameterCard::textSnippet, u"character.cursor.ibeam", u"Enter text or signature...", u"Text to insert",
+        defaultSnippet, &ConfiguredAction::textSnippet},
 });
 
 /// Null for a card without a text field.
