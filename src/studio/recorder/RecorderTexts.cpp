@@ -42,6 +42,12 @@ QString keyChip(const CustomShortcut& shortcut)
     return shortcut.keyDisplay.isEmpty() ? QStringLiteral("?") : shortcut.keyDisplay.toUpper();
 }
 
+QString rowName(qsizetype index, const CustomShortcut& shortcut)
+{
+    const QStringList chips = modifierChips(shortcut) + QStringList(keyChip(shortcut));
+    return keyTag(index) + QStringLiteral(": ") + chips.join(u' ');
+}
+
 QString test(MultiKeyPlaybackMode mode, qsizetype count)
 {
     if (count == 1)

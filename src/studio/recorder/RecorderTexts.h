@@ -35,6 +35,8 @@ inline constexpr QStringView hint =
 [[nodiscard]] QStringList modifierChips(const CustomShortcut& shortcut);
 /// The chip of the key itself.
 [[nodiscard]] QString keyChip(const CustomShortcut& shortcut);
+/// The whole row in words, as long as it isn't recorded anew.
+[[nodiscard]] QString rowName(qsizetype index, const CustomShortcut& shortcut);
 [[nodiscard]] QString test(MultiKeyPlaybackMode mode, qsizetype count);
 [[nodiscard]] QString testFeedback(MultiKeyPlaybackMode mode, qsizetype count);
 

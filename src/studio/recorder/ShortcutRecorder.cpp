@@ -82,6 +82,7 @@ void ShortcutRecorder::startRecording(State state, qsizetype index)
     if (m_session) {
         m_state = state;
         m_targetIndex = index;
+        ++m_recordingNumber;
     }
     Q_EMIT changed();
 }

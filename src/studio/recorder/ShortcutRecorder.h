@@ -65,6 +65,8 @@ public:
 
     [[nodiscard]] State state() const { return m_state; }
     [[nodiscard]] bool isRecording() const { return m_state != State::idle; }
+    /// Tells one recording from another: counts those that were begun.
+    [[nodiscard]] int recordingNumber() const { return m_recordingNumber; }
     [[nodiscard]] bool isSequenceRecordingMode() const { return m_state == State::appendingSequence; }
     /// The row that is being recorded anew.
     [[nodiscard]] std::optional<qsizetype> recordingTargetIndex() const;
@@ -114,6 +116,7 @@ private:
     Collaborators m_with;
     State m_state = State::idle;
     qsizetype m_targetIndex = 0; ///< of `reRecording`
+    int m_recordingNumber = 0;
     std::unique_ptr<KeyRecordingSession> m_session;
     std::optional<QString> m_testFeedback;
     /// Held weakly by calls that are still to come.
