@@ -4,6 +4,8 @@
 #include "platform/ports/ApplicationControl.h"
 #include "studio/applications/ApplicationScan.h"
 
+#include <algorithm>
+
 namespace tarvin {
 
 OpenApplicationCard::OpenApplicationCard(const KeyRecord& record, const ApplicationFolders& folders,
@@ -33,6 +35,19 @@ std::optional<QString> OpenApplicationCard::resolvedAppPath() const
     if (config.customAppPath && m_applications.exists(*config.customAppPath))
         return config.customAppPath;
     return config.customAppBundleId ? m_applications.pathOfApplication(*config.customAppBundleId) : std::nullopt;
+}
+
+QString OpenApplicationCard::resolvedAppIcon() const
+{
+    const std::optional<QString> path = resolvedAppPath();
+    if (!path)
+        return {};
+    const QList<InstalledApplication>& installed = m_list.search().applications();
+    const auto known = std::ranges::find(installed, *path, &InstalledApplication::path);
+    if (known != installed.end())
+        return known->icon;
+    const std::optional<ApplicationBundle> bundle = m_folders.bundleAt(*path);
+    return bundle ? bundle->icon : QString();
 }
 
 QString OpenApplicationCard::pressHint() const
@@ -69,11 +84,6 @@ void OpenApplicationCard::setSearchText(const QString& text)
 QList<InstalledApplication> OpenApplicationCard::filteredInstalledApps() const
 {
     return m_list.search().containing(m_searchText);
-}
-
-bool OpenApplicationCard::isChosen(const InstalledApplication& application) const
-{
-    return m_record.config().customAppBundleId == application.bundleIdentifier;
 }
 
 void OpenApplicationCard::choose(const InstalledApplication& application)

@@ -35,8 +35,10 @@ public:
 
     [[nodiscard]] bool hasApplication() const;
     [[nodiscard]] QString applicationName() const;
-    /// Where the icon of the chosen application is to be had; absent if it isn't installed any more.
+    /// Where the chosen application is; absent if it isn't installed any more.
     [[nodiscard]] std::optional<QString> resolvedAppPath() const;
+    /// The icon of what is there, see `ApplicationBundle`; empty if there is none. Reads a small file at times.
+    [[nodiscard]] QString resolvedAppIcon() const;
     [[nodiscard]] QString pressHint() const;
     [[nodiscard]] QStringView changeSymbol() const;
     [[nodiscard]] QString fileDialogMessage() const;
@@ -49,7 +51,10 @@ public:
     [[nodiscard]] const QString& searchText() const { return m_searchText; }
     void setSearchText(const QString& text);
     [[nodiscard]] QList<InstalledApplication> filteredInstalledApps() const;
-    [[nodiscard]] bool isChosen(const InstalledApplication& application) const;
+    /// Of all that are installed, whatever is searched for.
+    [[nodiscard]] qsizetype installedCount() const { return m_list.search().applications().size(); }
+    /// Of the entry that carries the mark.
+    [[nodiscard]] std::optional<QString> chosenBundleIdentifier() const { return m_record.config().customAppBundleId; }
 
     /// Makes the key open the application, and closes the list.
     void choose(const InstalledApplication& application);
