@@ -45,7 +45,8 @@ TextBlock::TextBlock(const QString& text, const TextStyle& style, const Colour& 
 {
     setTextFormat(Qt::PlainText);
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    // Able to grow, because what it wants is worked out for one line.
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
 }

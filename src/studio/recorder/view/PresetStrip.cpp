@@ -15,7 +15,7 @@ namespace {
 using palette::white;
 
 constexpr int pillHeight = 20;
-constexpr int barRoom = 8; // the scroll bar's
+constexpr int barRoom = 10; // for the scroll bar
 constexpr ButtonLook pillLook{.height = pillHeight,
     .radius = 6,
     .inset = 7,

@@ -96,7 +96,7 @@ void paintApplications(const Painter& painter)
     painter.paint(u"open-application-search"_qs, scene, ParameterCard::openApplication,
         [](QWidget& plate) { plate.findChild<QLineEdit*>()->setText(u"mus"_qs); });
     scene.openApplication.setSearchText({});
-    scene.openApplication.choose(scene.openApplication.filteredInstalledApps()[5]);
+    scene.openApplication.choose(scene.openApplication.filteredInstalledApps()[6]);
     painter.paint(u"open-application-chosen"_qs, scene, ParameterCard::openApplication);
     scene.openApplication.toggleList();
     painter.paint(u"open-application-change"_qs, scene, ParameterCard::openApplication);
