@@ -171,13 +171,13 @@ void ShortcutRecorderView::refresh()
 {
     if (!m_recorder)
         return;
-    const bool hadFocus = isAncestorOf(focusWidget());
+    const QWidget* const focused = focusWidget();
     refreshRows();
     m_banner->setText(m_recorder->bannerText().toString());
     m_banner->setVisible(m_recorder->isRecording());
     refreshActions();
-    // What had the keyboard may have gone; then it is for what ends the recording, or for what begins another.
-    if (hadFocus && !isAncestorOf(focusWidget()))
+    // What had the focus may have gone; then it is for what ends the recording, or for what begins another.
+    if (isAncestorOf(focused) && !focused->isVisibleTo(this))
         (m_recorder->isRecording() ? m_banner->doneButton() : *m_add).setFocus(Qt::OtherFocusReason);
 }
 
