@@ -342,8 +342,7 @@ TEST_F(RecorderView, aPresetThatGetsTheKeyboardScrollsIntoSight)
     QAbstractButton& last = buttonNamed(*view, shortcutPresets.back().title.toString());
     last.setFocus();
     EXPECT_GT(strip->horizontalScrollBar()->value(), 0);
-    EXPECT_TRUE(strip->viewport()->rect().contains(
-        QRect(last.mapTo(strip->viewport(), QPoint()), last.size()), false));
+    EXPECT_TRUE(strip->viewport()->rect().contains(QRect(last.mapTo(strip->viewport(), QPoint()), last.size()), false));
 }
 
 TEST_F(RecorderView, theWheelTurnsThePresetsOnlySideways)
