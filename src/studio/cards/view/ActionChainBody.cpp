@@ -6,18 +6,20 @@
 #include "ui/OutlinedButton.h"
 #include "ui/Palette.h"
 #include "ui/Plates.h"
+#include "ui/SpringColumn.h"
 #include "ui/Symbols.h"
 #include "ui/TextLine.h"
 
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QVBoxLayout>
 
 namespace tarvin {
 
 namespace {
 
 constexpr int rowHeight = 28;
+constexpr int rowSpacing = 5;
+constexpr Motion changeMotion = Motion::spring(0.25, 0.8);
 constexpr double rowRadius = 6;
 constexpr double inset = 8;
 constexpr double numberWidth = 14;
@@ -106,9 +108,8 @@ private:
 ActionChainBody::ActionChainBody(const KeyRecord& record, UuidGenerator& uuids, QWidget* parent)
     : QWidget(parent)
     , m_record(record)
-    , m_list(new QVBoxLayout)
+    , m_column(new SpringColumn(rowSpacing, changeMotion, this))
 {
-    m_list->setSpacing(4);
     auto* const adding = new FlowLayout(6);
     for (const NewChainStepRow& row : newChainStepRows) {
         auto* const button = new OutlinedButton(addLook);
@@ -117,16 +118,14 @@ ActionChainBody::ActionChainBody(const KeyRecord& record, UuidGenerator& uuids, 
             [this, &uuids, step = row.step] { appendChainStep(m_record, step, uuids); });
         adding->addWidget(button);
     }
-    auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 4, 0, 2);
-    column->setSpacing(7);
-    column->addLayout(m_list);
-    column->addLayout(adding);
+    m_column->setContentsMargins(0, 4, 0, 2);
+    m_column->addLayout(adding);
     followRecord(*this, m_record, &ActionChainBody::refresh);
 }
 
 void ActionChainBody::refresh()
 {
+    const SpringColumn::Change change(*m_column);
     const QList<ChainStepRow> steps = chainStepRows(m_record.config());
     std::size_t index = 0;
     for (const ChainStepRow& step : steps)
@@ -141,7 +140,7 @@ ActionChainBody::StepRow& ActionChainBody::rowAt(std::size_t index)
         auto* const row = new StepRow;
         connect(&row->trash(), &QAbstractButton::clicked, this,
             [this, index] { removeChainStep(m_record, static_cast<qsizetype>(index)); });
-        m_list->addWidget(row);
+        m_column->insertWidget(static_cast<int>(index), row);
         m_rows.push_back(row);
     }
     return *m_rows[index];

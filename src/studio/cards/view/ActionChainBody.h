@@ -6,10 +6,9 @@
 
 #include <vector>
 
-class QVBoxLayout;
-
 namespace tarvin {
 
+class SpringColumn;
 class UuidGenerator;
 
 /// The body of the card with the steps of a macro: the list of them, and what adds another.
@@ -27,7 +26,7 @@ private:
     [[nodiscard]] StepRow& rowAt(std::size_t index);
 
     KeyRecord m_record;
-    QVBoxLayout* m_list;
+    SpringColumn* m_column;
     std::vector<StepRow*> m_rows; ///< those beyond the steps are hidden
 };
 

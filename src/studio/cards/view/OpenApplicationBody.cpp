@@ -5,6 +5,7 @@
 #include "studio/cards/OpenApplicationCard.h"
 #include "studio/cards/view/FollowRecord.h"
 #include "ui/OutlinedButton.h"
+#include "ui/SpringColumn.h"
 #include "ui/TextBlock.h"
 #include "ui/TextField.h"
 #include "ui/TextLabel.h"
@@ -25,6 +26,7 @@ using palette::white;
 constexpr int iconSize = 24;
 constexpr double placeholderSize = 18;
 constexpr int spacing = 8;
+constexpr Motion changeMotion = Motion::spring(0.25, 0.8);
 constexpr int gap = 6; // between search field and button
 constexpr TextStyle nameText{.size = 12, .weight = TextWeight::bold, .face = TextFace::rounded};
 constexpr TextStyle hintText{.size = 10, .weight = TextWeight::regular, .face = TextFace::rounded};
@@ -107,6 +109,7 @@ OpenApplicationBody::OpenApplicationBody(
     : QWidget(parent)
     , m_record(record)
     , m_card(card)
+    , m_column(new SpringColumn(gap, changeMotion, this))
     , m_icon(new IconLabel(card, icons))
     , m_name(new TextLabel({}, nameText, white))
     , m_placeholder(new TextBlock(OpenApplicationCard::placeholderText.toString(), hintText, white.at(0.5)))
@@ -144,12 +147,10 @@ OpenApplicationBody::OpenApplicationBody(
     picker->addLayout(searching);
     picker->addWidget(m_list);
 
-    auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 4, 0, 2);
-    column->setSpacing(gap);
-    column->addLayout(chosen);
-    column->addWidget(m_hint);
-    column->addWidget(m_picker);
+    m_column->setContentsMargins(0, 4, 0, 2);
+    m_column->addLayout(chosen);
+    m_column->addWidget(m_hint);
+    m_column->addWidget(m_picker);
 
     connect(&icons, &ApplicationIcons::changed, m_icon, qOverload<>(&QWidget::update));
     connect(&m_card, &OpenApplicationCard::changed, this, [this] {
@@ -162,6 +163,7 @@ OpenApplicationBody::OpenApplicationBody(
 
 void OpenApplicationBody::refresh()
 {
+    const SpringColumn::Change change(*m_column);
     const bool hasApplication = m_card.hasApplication();
     m_icon->setIcon(m_card.resolvedAppIcon());
     m_name->setText(m_card.applicationName());

@@ -12,6 +12,7 @@ class ApplicationIcons;
 class ApplicationListView;
 class OpenApplicationCard;
 class OutlinedButton;
+class SpringColumn;
 class TextBlock;
 class TextField;
 class TextLabel;
@@ -39,6 +40,7 @@ private:
 
     KeyRecord m_record;
     OpenApplicationCard& m_card;
+    SpringColumn* m_column;
     IconLabel* m_icon;
     TextLabel* m_name;
     TextBlock* m_placeholder;

@@ -7,6 +7,7 @@
 #include "studio/recorder/view/RecordingBanner.h"
 #include "ui/FlowLayout.h"
 #include "ui/OutlinedButton.h"
+#include "ui/SpringColumn.h"
 #include "ui/TextBlock.h"
 #include "ui/TextLabel.h"
 
@@ -23,6 +24,7 @@ using palette::white;
 constexpr int inset = 4;
 constexpr int spacing = 10;
 constexpr int actionSpacing = 6;
+constexpr Motion changeMotion = Motion::spring(0.25, 0.8);
 constexpr Colour clear = white.at(0);
 
 constexpr ButtonLook addLook{.height = 25,
@@ -81,8 +83,8 @@ constexpr TextStyle hintText{.size = 9.5, .weight = TextWeight::regular, .face =
 ShortcutRecorderView::ShortcutRecorderView(ShortcutRecorder& recorder, QWidget* parent)
     : QWidget(parent)
     , m_recorder(&recorder)
+    , m_column(new SpringColumn(spacing, changeMotion, this))
     , m_mode(new PlaybackModeSelector)
-    , m_keys(new QVBoxLayout)
     , m_banner(new RecordingBanner)
     , m_add(new OutlinedButton(addLook))
     , m_sequence(new OutlinedButton(sequenceLook))
@@ -105,7 +107,6 @@ ShortcutRecorderView::ShortcutRecorderView(ShortcutRecorder& recorder, QWidget* 
     auto* const strip = new PresetStrip;
     connect(strip, &PresetStrip::presetChosen, &recorder, &ShortcutRecorder::apply);
 
-    m_keys->setSpacing(spacing);
     auto* const actions = new FlowLayout(actionSpacing);
     actions->addWidget(m_add);
     actions->addWidget(m_sequence);
@@ -117,16 +118,13 @@ ShortcutRecorderView::ShortcutRecorderView(ShortcutRecorder& recorder, QWidget* 
     auto* const hint = new TextBlock(recorder_texts::hint.toString(), hintText, white.at(0.42));
     hint->setContentsMargins(2, 2, 2, 2);
 
-    auto* const column = new QVBoxLayout(this);
-    column->setContentsMargins(inset, inset, inset, inset);
-    column->setSpacing(spacing);
-    column->addWidget(m_mode);
-    column->addLayout(m_keys);
-    column->addWidget(m_banner);
-    column->addLayout(actions);
-    column->addLayout(presets);
-    column->addWidget(m_test);
-    column->addWidget(hint);
+    m_column->setContentsMargins(inset, inset, inset, inset);
+    m_column->addWidget(m_mode);
+    m_column->addWidget(m_banner);
+    m_column->addLayout(actions);
+    m_column->addLayout(presets);
+    m_column->addWidget(m_test);
+    m_column->addWidget(hint);
     connect(&recorder, &ShortcutRecorder::changed, this, &ShortcutRecorderView::refresh);
     refresh();
 }
@@ -171,6 +169,7 @@ void ShortcutRecorderView::refresh()
 {
     if (!m_recorder)
         return;
+    const SpringColumn::Change change(*m_column);
     const QWidget* const focused = focusWidget();
     refreshRows();
     m_banner->setText(m_recorder->bannerText().toString());
@@ -219,7 +218,8 @@ KeyRow& ShortcutRecorderView::rowAt(std::size_t index)
             if (m_recorder)
                 m_recorder->remove(static_cast<qsizetype>(index));
         });
-        m_keys->addWidget(row);
+        // Below the selector of the mode.
+        m_column->insertWidget(1 + static_cast<int>(index), row);
         m_rows.push_back(row);
     }
     return *m_rows[index];

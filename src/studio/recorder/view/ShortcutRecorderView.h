@@ -7,14 +7,13 @@
 
 #include <vector>
 
-class QVBoxLayout;
-
 namespace tarvin {
 
 class KeyRow;
 class OutlinedButton;
 class PlaybackModeSelector;
 class RecordingBanner;
+class SpringColumn;
 
 /// Shows the recorded keys and records others. A recording that was begun here ends when the view disappears.
 class ShortcutRecorderView : public QWidget
@@ -41,8 +40,8 @@ private:
     /// An owner may let the recorder go first.
     QPointer<ShortcutRecorder> m_recorder;
     int m_ownRecording = 0; ///< the number of the last that was begun here
+    SpringColumn* m_column;
     PlaybackModeSelector* m_mode;
-    QVBoxLayout* m_keys;
     std::vector<KeyRow*> m_rows; ///< those beyond the keys are hidden
     RecordingBanner* m_banner;
     OutlinedButton* m_add;

@@ -10,9 +10,10 @@
 #include "ui/Plates.h"
 
 #include <QApplication>
-#include <QFileDialog>
+#include <QEventLoop>
 #include <QLineEdit>
 #include <QPainter>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <cstdio>
@@ -59,6 +60,10 @@ public:
                 scene.settle();
                 plate.grab();
             }
+            // Everything has come to rest by then.
+            QEventLoop rest;
+            QTimer::singleShot(700, &rest, &QEventLoop::quit);
+            rest.exec();
             plate.resize(plate.width(), plate.heightForWidth(plate.width()));
             QApplication::processEvents();
         };
