@@ -29,7 +29,7 @@ LinuxDesktop::LinuxDesktop(
     , connection(scheduler, console)
     , shell(scheduler, connection)
     , applications(scheduler, desktop::ApplicationLocations::fromEnvironment())
-    , applicationFolders(desktop::ApplicationLocations::fromEnvironment())
+    , applicationFolders(desktop::ApplicationLocations::fromEnvironment(), desktop::IconPlaces::ofSession())
     , workspace(
           connection, applications, scheduler, [this](const QString& url) { shell.openUrls({url}, {}); },
           qGuiApp->devicePixelRatio())

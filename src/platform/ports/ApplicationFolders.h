@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <array>
 #include <cstdint>
@@ -50,6 +51,10 @@ public:
     [[nodiscard]] virtual QList<ApplicationBundle> contents(ApplicationFolder folder) const = 0;
     /// What the user pointed at; absent if it is no application.
     [[nodiscard]] virtual std::optional<ApplicationBundle> bundleAt(const QString& path) const = 0;
+    /// The files that hold a picture of the icon, best first; some may be of a kind that the caller can't read.
+    /// @param icon as a bundle names it
+    /// @param pixels the side that is wanted
+    [[nodiscard]] virtual QStringList pictureFiles(const QString& icon, int pixels) const = 0;
     [[nodiscard]] virtual ApplicationBrowsing browsing() const = 0;
 };
 

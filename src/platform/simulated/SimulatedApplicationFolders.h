@@ -33,13 +33,25 @@ public:
         return {.startFolder = QStringLiteral("/Applications"), .suffix = QStringLiteral("app")};
     }
 
+    [[nodiscard]] QStringList pictureFiles(const QString& icon, int /*pixels*/) const override
+    {
+        ++m_pictureLookups;
+        const auto found = m_pictures.find(icon);
+        return found != m_pictures.end() ? QStringList(found->second) : QStringList();
+    }
+
+    /// An icon has its picture in a real file.
+    void setPicture(const QString& icon, const QString& file) { m_pictures[icon] = file; }
+    [[nodiscard]] int pictureLookups() const { return m_pictureLookups; }
     void install(ApplicationFolder folder, const ApplicationBundle& bundle) { m_contents[folder].append(bundle); }
     /// How often a folder has been read.
     [[nodiscard]] int readings() const { return m_readings; }
 
 private:
     std::map<ApplicationFolder, QList<ApplicationBundle>> m_contents;
+    std::map<QString, QString> m_pictures;
     mutable int m_readings = 0;
+    mutable int m_pictureLookups = 0;
 };
 
 } // namespace tarvin::simulated

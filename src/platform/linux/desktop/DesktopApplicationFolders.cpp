@@ -26,8 +26,9 @@ ApplicationBundle bundleOf(const DesktopEntry& entry)
 
 } // namespace
 
-DesktopApplicationFolders::DesktopApplicationFolders(ApplicationLocations locations)
+DesktopApplicationFolders::DesktopApplicationFolders(ApplicationLocations locations, IconPlaces icons)
     : m_locations(std::move(locations))
+    , m_iconPlaces(std::move(icons))
 { }
 
 QList<ApplicationBundle> DesktopApplicationFolders::contents(ApplicationFolder folder) const
@@ -60,6 +61,12 @@ std::optional<ApplicationBundle> DesktopApplicationFolders::bundleAt(const QStri
         return std::nullopt;
     const DesktopEntryFile read = readDesktopEntry(file.read(largestFile), id, path, m_locations.locales);
     return read.entry ? std::optional(bundleOf(*read.entry)) : std::nullopt;
+}
+
+QStringList DesktopApplicationFolders::pictureFiles(const QString& icon, int pixels) const
+{
+    std::call_once(m_iconsAreRead, [this] { m_icons.emplace(m_iconPlaces); });
+    return m_icons->filesOf(icon, pixels);
 }
 
 ApplicationBrowsing DesktopApplicationFolders::browsing() const
