@@ -59,7 +59,7 @@ void OutlinedButton::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     const QRectF box = rect();
     if (!isEnabled())
-        painter.setOpacity(0.4);
+        painter.setOpacity(m_look.disabledOpacity);
     fillPlate(painter, box, m_look.radius, mixed(m_look.fill, m_look.hoveredFill, isDown() ? 1.5 * hover() : hover()));
     strokePlate(painter, box, m_look.radius, 1, m_look.stroke);
     const double symbolWidth = m_symbol ? m_look.symbolSize * symbolBoxPerSize : 0;

@@ -23,6 +23,7 @@ struct ButtonLook
     Colour fill = palette::buttonFill;
     Colour hoveredFill = palette::white.at(0.09);
     Colour stroke = palette::buttonStroke;
+    double disabledOpacity = 0.4; ///< of everything while the button is disabled
 
     bool operator==(const ButtonLook&) const = default;
 };

@@ -13,9 +13,10 @@ OverlayScrollBar::OverlayScrollBar(QAbstractScrollArea& area, const QMargins& ma
     area.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area.installEventFilter(this);
     QScrollBar* const hidden = area.verticalScrollBar();
-    connect(hidden, &QScrollBar::rangeChanged, this, [this, hidden](int least, int most) {
+    connect(hidden, &QScrollBar::rangeChanged, this, [this](int least, int most) {
         setRange(least, most);
-        setPageStep(hidden->pageStep());
+        // The hidden bar learns of it later than of its range.
+        setPageStep(m_area.viewport()->height());
         setVisible(most > least);
     });
     connect(hidden, &QScrollBar::valueChanged, this, &QScrollBar::setValue);

@@ -63,6 +63,12 @@ TextField::TextField(const QString& name, std::optional<Symbol> symbol, const Fi
     setTextMargins(static_cast<int>(front) - 2, 0, static_cast<int>(look.inset) + button->sizeHint().width(), 0);
 }
 
+void TextField::setLook(const FieldLook& look)
+{
+    m_look = look;
+    update();
+}
+
 QSize TextField::sizeHint() const
 {
     return {160, static_cast<int>(std::ceil(m_look.height))};

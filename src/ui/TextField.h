@@ -40,6 +40,9 @@ public:
     explicit TextField(const QString& name, std::optional<Symbol> symbol = std::nullopt, const FieldLook& look = {},
         QWidget* parent = nullptr);
 
+    /// Other colours for the plate and the symbol; what else the look says stays as it was.
+    void setLook(const FieldLook& look);
+
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
