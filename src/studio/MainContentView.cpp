@@ -88,15 +88,18 @@ void MainContentView::followSelection()
 {
     const auto key = selectedKey();
     if (!key) {
+        takeFocusFromPicker();
         if (isVisible())
             m_pickerShare.animateTo(0, pickerMotion);
         else
             m_pickerShare.jumpTo(0);
         return;
     }
+    takeFocusFromPicker();
     removePicker();
     if (!m_surfaces.makeActionPicker)
         return;
+    m_pickerKey = key;
     m_picker = m_surfaces.makeActionPicker(*key, [this] { m_body->keyboard().setSelectedKey(std::nullopt); });
     m_picker->setParent(this);
     m_picker->show();
@@ -105,6 +108,12 @@ void MainContentView::followSelection()
     else
         m_pickerShare.jumpTo(1);
     layOut();
+}
+
+void MainContentView::takeFocusFromPicker()
+{
+    if (m_picker && m_pickerKey && m_picker->isAncestorOf(focusWidget()))
+        m_body->keyboard().focusKey(*m_pickerKey);
 }
 
 void MainContentView::removePicker()

@@ -4,6 +4,7 @@
 #include "studio/StudioCollaborators.h"
 #include "ui/AnimatedValue.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <optional>
@@ -46,6 +47,8 @@ private:
     void followPermission();
     void followSelection();
     void removePicker();
+    /// A pane that goes leaves the keyboard with its key.
+    void takeFocusFromPicker();
     void layOut();
     void fitBody();
 
@@ -56,7 +59,8 @@ private:
     QScrollArea* m_scroll;
     StudioBody* m_body;
     BottomFooterBar* m_footer;
-    QWidget* m_picker = nullptr;
+    QPointer<QWidget> m_picker;
+    std::optional<FKey> m_pickerKey; ///< that the pane edits, also while it slides out
     AnimatedValue m_pickerShare; ///< how much of the pane has slid in, from 0 to 1
 };
 

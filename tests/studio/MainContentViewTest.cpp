@@ -21,6 +21,7 @@
 
 #include <QAccessible>
 #include <QLabel>
+#include <QLineEdit>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSet>
@@ -354,6 +355,39 @@ TEST_F(MainContent, aSelectedKeyOpensItsPaneAtTheRightAndClosingItClearsTheSelec
     EXPECT_EQ(content.selectedKey(), std::nullopt);
     EXPECT_TRUE(QTest::qWaitFor([&] { return content.actionPicker() == nullptr; }));
     EXPECT_EQ(content.header().width(), 1260);
+}
+
+TEST_F(MainContent, aPaneThatHadTheKeyboardLeavesItWithItsKey)
+{
+    MainContentView& content = show();
+    MacBookAirKeyboardView& keyboard = content.body().keyboard();
+    keyboard.setSelectedKey(FKey::f5);
+    auto* const field = new QLineEdit(content.actionPicker());
+    field->show();
+    field->setFocus();
+    ASSERT_EQ(window->focusWidget(), field);
+    dynamic_cast<Pane*>(content.actionPicker())->close();
+    EXPECT_EQ(window->focusWidget(), &keyboard.button(*keycapOf(FKey::f5)));
+    EXPECT_TRUE(keyboard.button(*keycapOf(FKey::f5)).focusPolicy() & Qt::TabFocus);
+    EXPECT_FALSE(keyboard.button(*keycapOf(FKey::f1)).focusPolicy() & Qt::TabFocus) << "Tab reaches one key alone";
+}
+
+TEST_F(MainContent, aPaneWithoutTheKeyboardTakesItFromNobody)
+{
+    MainContentView& content = show();
+    content.body().keyboard().setSelectedKey(FKey::f5);
+    dynamic_cast<Pane*>(content.actionPicker())->close();
+    EXPECT_EQ(window->focusWidget(), &content);
+}
+
+TEST_F(MainContent, aPaneMayGoBeforeTheWindow)
+{
+    MainContentView& content = show();
+    content.body().keyboard().setSelectedKey(FKey::f5);
+    delete content.actionPicker();
+    EXPECT_EQ(content.actionPicker(), nullptr);
+    content.body().keyboard().setSelectedKey(std::nullopt);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return content.header().width() == 1260; }));
 }
 
 TEST_F(MainContent, anotherKeyGetsAPaneOfItsOwn)

@@ -130,10 +130,21 @@ void MacBookAirKeyboardView::hoverKey(std::size_t keycap, bool isHovered)
 
 void MacBookAirKeyboardView::moveFocus(std::size_t from, Qt::Key arrow)
 {
-    const std::size_t to = liveKeyTowards(m_geometry, from, arrow);
-    m_buttons[from]->setFocusPolicy(Qt::NoFocus);
-    m_buttons[to]->setFocusPolicy(Qt::TabFocus);
-    m_buttons[to]->setFocus(Qt::OtherFocusReason);
+    focusKeycap(liveKeyTowards(m_geometry, from, arrow));
+}
+
+void MacBookAirKeyboardView::focusKey(FKey key)
+{
+    if (const auto keycap = keycapOf(key))
+        focusKeycap(*keycap);
+}
+
+void MacBookAirKeyboardView::focusKeycap(std::size_t keycap)
+{
+    for (KeyButton* const button : m_buttons)
+        button->setFocusPolicy(Qt::NoFocus);
+    m_buttons[keycap]->setFocusPolicy(Qt::TabFocus);
+    m_buttons[keycap]->setFocus(Qt::OtherFocusReason);
 }
 
 std::optional<std::size_t> MacBookAirKeyboardView::selectedKeycap() const

@@ -34,6 +34,8 @@ public:
 
     [[nodiscard]] std::optional<FKey> selectedKey() const { return m_selectedKey; }
     void setSelectedKey(std::optional<FKey> key);
+    /// Gives the keyboard to that key, which from now on is the one that Tab reaches.
+    void focusKey(FKey key);
     [[nodiscard]] const std::optional<std::size_t>& hoveredKeycap() const { return m_hoveredKeycap; }
     [[nodiscard]] double containerWidth() const { return m_containerWidth; }
     /// In the container, that is, without the margins.
@@ -57,6 +59,7 @@ private:
     void clickKey(std::size_t keycap);
     void hoverKey(std::size_t keycap, bool isHovered);
     void moveFocus(std::size_t from, Qt::Key arrow);
+    void focusKeycap(std::size_t keycap);
     [[nodiscard]] KeycapState stateOf(std::size_t keycap) const;
     [[nodiscard]] Motion motionBetween(const KeycapState& from, const KeycapState& to) const;
     /// Brings every key's state in line; what differs moves there.
