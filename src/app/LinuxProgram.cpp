@@ -4,6 +4,7 @@
 #include "app/DrawnToolPanels.h"
 #include "app/LinuxDesktop.h"
 #include "app/ProgramCommands.h"
+#include "app/StudioViews.h"
 #include "app/core/SharedObjects.h"
 #include "interception/EventTapManager.h"
 #include "interception/RuntimeLog.h"
@@ -168,7 +169,8 @@ private:
                             QStringLiteral("No keyboard settings are installed on this desktop"));
                 },
         };
-        m_studioWindow = std::make_unique<StudioWindow>(collaborators, StudioSurfaces{});
+        m_studioViews.emplace(m_desktop.ports(), m_objects);
+        m_studioWindow = std::make_unique<StudioWindow>(collaborators, m_studioViews->surfaces());
         AppWindow& window = m_desktop.shell.addWindow(*m_studioWindow, desktop::AppWindowKind::ordinary);
         m_objects.backgroundModeManager().setMainWindow(&window);
         window.makeKeyAndOrderFront();
@@ -181,6 +183,7 @@ private:
     ProgramCommands m_commands;
     std::optional<desktop::TrayLookout> m_trayLookout;
     std::optional<MenuBarItem> m_menuBarItem;
+    std::optional<StudioViews> m_studioViews;
 };
 
 } // namespace
