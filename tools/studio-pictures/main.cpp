@@ -3,6 +3,8 @@
 //
 //   tarvin-studio-pictures FOLDER
 
+#include "actions/usage/ActionUsageTracker.h"
+#include "app/StudioViews.h"
 #include "app/core/NoToolPanelWindows.h"
 #include "app/core/SharedObjects.h"
 #include "interception/AccessibilityHelper.h"
@@ -17,8 +19,10 @@
 #include "studio/StudioWindow.h"
 #include "studio/TarvinLogoView.h"
 #include "studio/keyboard/MacBookAirKeyboardView.h"
+#include "studio/picker/view/ActionPickerView.h"
 #include "ui/InterfaceStyle.h"
 #include "ui/Palette.h"
+#include "ui/TextField.h"
 
 #include <QApplication>
 #include <QImage>
@@ -42,6 +46,9 @@ class Scene
 public:
     Scene()
     {
+        for (const KeyAction action : {KeyAction::screenCapture, KeyAction::toggleMicMute, KeyAction::keyboardShortcut,
+                 KeyAction::snapWindowLeft, KeyAction::textSnippet})
+            m_objects.actionUsageTracker().recordUsage(action);
         m_platform.powerSources().setSources(std::vector<PowerSource>{{.currentCapacity = 76, .isCharging = false}});
     }
 
@@ -55,7 +62,8 @@ public:
     }
 
     /// @param prepare the last touch, when the window is there
-    void draw(const QString& file, const std::function<void(Scene&, StudioWindow&)>& prepare = {})
+    void draw(const QString& file, const std::function<void(Scene&, StudioWindow&)>& prepare = {},
+        const QSize& size = MainContentView::idealSize)
     {
         m_objects.eventTapManager().start();
         StudioWindow window({.keyProfile = profile(),
@@ -66,7 +74,8 @@ public:
                                 .backgroundModeManager = m_objects.backgroundModeManager(),
                                 .accessibilityHelper = m_objects.accessibilityHelper(),
                                 .openKeyboardSettings = [] {}},
-            {});
+            m_views.surfaces());
+        window.resize(size);
         // Before the window is shown nothing moves, so what is drawn is at rest.
         if (prepare)
             prepare(*this, window);
@@ -86,7 +95,40 @@ private:
     simulated::SimulatedPlatform m_platform;
     NoToolPanelWindows m_panels;
     SharedObjects m_objects{m_platform.ports(), m_panels};
+    StudioViews m_views{m_platform.ports(), m_objects};
 };
+
+/// The window as it comes to rest with a key selected and perhaps a search typed.
+void edit(StudioWindow& window, FKey key, const QString& search = {})
+{
+    window.content().body().keyboard().setSelectedKey(key);
+    if (search.isEmpty())
+        return;
+    auto& picker = dynamic_cast<ActionPickerView&>(*window.content().actionPicker());
+    picker.searchField().setText(search);
+}
+
+constexpr std::initializer_list<std::pair<FKey, KeyAction>> half = {{FKey::f1, KeyAction::screenCapture},
+    {FKey::f5, KeyAction::clipboardHistory}, {FKey::f8, KeyAction::showActionsRing},
+    {FKey::f12, KeyAction::keyboardShortcut}, {FKey::capsLock, KeyAction::actionChain},
+    {FKey::rightCommand, KeyAction::lockScreen}};
+
+void drawPicker(const QString& folder)
+{
+    constexpr QSize large{1600, 880};
+    Scene selected;
+    selected.customise(half);
+    selected.draw(
+        folder + QStringLiteral("-selected"), [](Scene&, StudioWindow& window) { edit(window, FKey::f5); }, large);
+    selected.draw(folder + QStringLiteral("-search"),
+        [](Scene&, StudioWindow& window) { edit(window, FKey::f10, QStringLiteral("mute")); });
+    selected.draw(folder + QStringLiteral("-search-without-results"),
+        [](Scene&, StudioWindow& window) { edit(window, FKey::f10, QStringLiteral("teleportation")); });
+    selected.draw(folder + QStringLiteral("-card"), [](Scene&, StudioWindow& window) { edit(window, FKey::f1); });
+    selected.profile().setFunctionKeysEnabled(false);
+    selected.draw(
+        folder + QStringLiteral("-selected-paused"), [](Scene&, StudioWindow& window) { edit(window, FKey::f5); });
+}
 
 constexpr std::initializer_list<std::pair<FKey, KeyAction>> dozen = {{FKey::f1, KeyAction::screenCapture},
     {FKey::f2, KeyAction::snapWindowLeft}, {FKey::f3, KeyAction::snapWindowRight},
@@ -135,10 +177,7 @@ int main(int argumentCount, char** arguments)
     paused.customise(dozen);
     paused.profile().setFunctionKeysEnabled(false);
     paused.draw(folder + QStringLiteral("-paused"));
-    Scene selected;
-    selected.customise(dozen);
-    selected.draw(folder + QStringLiteral("-selected"),
-        [](Scene&, StudioWindow& window) { window.content().body().keyboard().setSelectedKey(FKey::f5); });
+    drawPicker(folder);
     Scene waiting;
     waiting.customise({{FKey::f5, KeyAction::clipboardHistory}, {FKey::capsLock, KeyAction::actionChain}});
     waiting.platform().permission().setTrusted(false);
