@@ -5,6 +5,7 @@
 #include "studio/recorder/view/PlaybackModeSelector.h"
 #include "studio/recorder/view/PresetStrip.h"
 #include "studio/recorder/view/RecordingBanner.h"
+#include "ui/ConfirmButton.h"
 #include "ui/FlowLayout.h"
 #include "ui/OutlinedButton.h"
 #include "ui/SpringColumn.h"
@@ -25,6 +26,7 @@ constexpr int inset = 4;
 constexpr int spacing = 10;
 constexpr int actionSpacing = 6;
 constexpr Motion changeMotion = Motion::spring(0.25, 0.8);
+constexpr Motion feedbackMotion = Motion::easeInOut(std::chrono::milliseconds(350));
 constexpr Colour clear = white.at(0);
 
 constexpr ButtonLook addLook{.height = 25,
@@ -89,7 +91,7 @@ ShortcutRecorderView::ShortcutRecorderView(ShortcutRecorder& recorder, QWidget* 
     , m_add(new OutlinedButton(addLook))
     , m_sequence(new OutlinedButton(sequenceLook))
     , m_clear(new OutlinedButton(clearLook))
-    , m_test(new OutlinedButton(testLook))
+    , m_test(new ConfirmButton(testLook, {.confirming = feedbackMotion, .returning = feedbackMotion}))
 {
     connect(m_mode, &PlaybackModeSelector::modeChosen, &recorder, &ShortcutRecorder::setPlaybackMode);
     connect(m_banner, &RecordingBanner::done, &recorder, &ShortcutRecorder::stopRecording);
@@ -102,7 +104,6 @@ ShortcutRecorderView::ShortcutRecorderView(ShortcutRecorder& recorder, QWidget* 
         m_sequence, &QAbstractButton::clicked, this, [this] { record(ShortcutRecorder::State::appendingSequence, 0); });
     m_clear->setText(recorder_texts::clear.toString());
     connect(m_clear, &QAbstractButton::clicked, &recorder, &ShortcutRecorder::clear);
-    m_test->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     connect(m_test, &QAbstractButton::clicked, &recorder, &ShortcutRecorder::test);
     auto* const strip = new PresetStrip;
     connect(strip, &PresetStrip::presetChosen, &recorder, &ShortcutRecorder::apply);
@@ -204,8 +205,8 @@ void ShortcutRecorderView::refreshActions()
     m_sequence->setVisible(m_recorder->offersSequence());
     m_clear->setVisible(m_recorder->offersClear());
     m_test->setVisible(m_recorder->offersTest());
-    m_test->setText(m_recorder->testText());
-    m_test->setSymbol(m_recorder->hasTestFeedback() ? Symbol(u"checkmark.circle.fill") : Symbol(u"play.fill"));
+    m_test->showText(m_recorder->testText(),
+        m_recorder->hasTestFeedback() ? ConfirmButton::Says::confirmation : ConfirmButton::Says::offer);
 }
 
 KeyRow& ShortcutRecorderView::rowAt(std::size_t index)

@@ -9,6 +9,7 @@
 
 namespace tarvin {
 
+class ConfirmButton;
 class KeyRow;
 class OutlinedButton;
 class PlaybackModeSelector;
@@ -47,7 +48,7 @@ private:
     OutlinedButton* m_add;
     OutlinedButton* m_sequence;
     OutlinedButton* m_clear;
-    OutlinedButton* m_test;
+    ConfirmButton* m_test;
 };
 
 } // namespace tarvin
