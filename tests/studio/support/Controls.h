@@ -39,6 +39,13 @@ namespace tarvin::test {
     return *found[place];
 }
 
+/// Does what assistive technology finds first to be done.
+inline void activate(QWidget& widget)
+{
+    QAccessibleActionInterface* const actions = QAccessible::queryAccessibleInterface(&widget)->actionInterface();
+    actions->doAction(actions->actionNames().value(0));
+}
+
 /// What the labels say that are there to be seen.
 [[nodiscard]] inline QStringList shownTexts(const QWidget& parent)
 {

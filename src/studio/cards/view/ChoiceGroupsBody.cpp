@@ -6,6 +6,7 @@
 #include "ui/Palette.h"
 #include "ui/TextLabel.h"
 
+#include <QScopedValueRollback>
 #include <QVBoxLayout>
 
 namespace tarvin {
@@ -38,8 +39,12 @@ ChoiceGroupsBody::ChoiceGroupsBody(ParameterCard card, const KeyRecord& record, 
         QList<ChoiceRow*> made;
         for (const QString& text : group.rows) {
             auto* const row = new ChoiceRow(text);
-            connect(row, &QAbstractButton::clicked, this,
-                [this, place = m_rows.size(), number = made.size()] { choose(place, number); });
+            // Not the click: assistive technology chooses without one.
+            connect(row, &QAbstractButton::toggled, this,
+                [this, place = m_rows.size(), number = made.size()](bool isChosen) {
+                    if (isChosen && !m_isRefreshing)
+                        choose(place, number);
+                });
             rows->addWidget(row);
             made += row;
         }
@@ -51,6 +56,7 @@ ChoiceGroupsBody::ChoiceGroupsBody(ParameterCard card, const KeyRecord& record, 
 
 void ChoiceGroupsBody::refresh()
 {
+    const QScopedValueRollback refreshing(m_isRefreshing, true);
     const QList<ChoiceGroup> groups = choiceGroups(m_card, m_record);
     for (qsizetype group = 0; group < groups.size(); ++group)
         m_rows[group][groups[group].selected]->setChecked(true);

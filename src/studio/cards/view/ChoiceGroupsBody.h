@@ -25,6 +25,7 @@ private:
     ParameterCard m_card;
     KeyRecord m_record;
     QList<QList<ChoiceRow*>> m_rows; ///< of each group
+    bool m_isRefreshing = false;
 };
 
 } // namespace tarvin

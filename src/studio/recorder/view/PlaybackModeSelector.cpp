@@ -99,7 +99,11 @@ PlaybackModeSelector::PlaybackModeSelector(QWidget* parent)
     buttons->setSpacing(6);
     for (const MultiKeyPlaybackMode mode : allMultiKeyPlaybackModes) {
         auto* const button = new ModeButton(mode);
-        connect(button, &QAbstractButton::clicked, this, [this, mode] { Q_EMIT modeChosen(mode); });
+        // Not the click: assistive technology chooses without one.
+        connect(button, &QAbstractButton::toggled, this, [this, mode](bool isChosen) {
+            if (isChosen && mode != m_shown)
+                Q_EMIT modeChosen(mode);
+        });
         buttons->addWidget(button);
         m_buttons[static_cast<std::size_t>(mode)] = button;
     }
@@ -115,6 +119,7 @@ void PlaybackModeSelector::show(MultiKeyPlaybackMode mode, qsizetype keyCount)
 {
     m_heading->setText(recorder_texts::playbackHeading(keyCount));
     m_explanation->setText(recorder_texts::playbackExplanation(mode, keyCount));
+    m_shown = mode;
     m_buttons[static_cast<std::size_t>(mode)]->setChecked(true);
     QWidget::show();
 }

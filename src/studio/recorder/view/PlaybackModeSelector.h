@@ -5,6 +5,7 @@
 #include <QWidget>
 
 #include <array>
+#include <optional>
 
 namespace tarvin {
 
@@ -34,6 +35,7 @@ private:
     TextLabel* m_heading;
     std::array<ModeButton*, 2> m_buttons; ///< by mode
     TextBlock* m_explanation;
+    std::optional<MultiKeyPlaybackMode> m_shown;
 };
 
 } // namespace tarvin

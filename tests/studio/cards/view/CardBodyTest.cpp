@@ -118,6 +118,8 @@ TEST_F(CardBody, rowsAreRadioButtonsForAssistiveTechnology)
     QAccessibleInterface* const row = QAccessible::queryAccessibleInterface(&buttonNamed(*body, u"Frontmost app"_qs));
     EXPECT_EQ(row->role(), QAccessible::RadioButton);
     EXPECT_TRUE(row->state().checked);
+    test::activate(buttonNamed(*body, u"Force Quit dialog (⌥⌘⎋)"_qs));
+    EXPECT_EQ(scene.config().forceQuitMode, ForceQuitMode::systemDialog);
 }
 
 TEST_F(CardBody, aRowFollowsWhatOthersWrite)

@@ -187,6 +187,14 @@ TEST_F(RecorderView, theBehaviourIsAskedForFromTwoKeysOn)
     EXPECT_EQ(mode, MultiKeyPlaybackMode::sequential);
 }
 
+TEST_F(RecorderView, assistiveTechnologyChoosesTheBehaviourToo)
+{
+    recordThree();
+    test::activate(buttonNamed(*view, u"In sequence"_qs));
+    EXPECT_EQ(mode, MultiKeyPlaybackMode::sequential);
+    EXPECT_TRUE(QAccessible::queryAccessibleInterface(&buttonNamed(*view, u"In sequence"_qs))->state().checked);
+}
+
 TEST_F(RecorderView, aPresetReplacesTheList)
 {
     recordThree();
