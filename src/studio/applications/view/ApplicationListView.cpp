@@ -202,6 +202,25 @@ void ApplicationListView::updateGeometries()
     bar->setSingleStep(wheelStep);
 }
 
+QItemSelectionModel::SelectionFlags ApplicationListView::selectionCommand(
+    const QModelIndex& /*index*/, const QEvent* /*event*/) const
+{
+    return QItemSelectionModel::NoUpdate;
+}
+
+void ApplicationListView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QListView::selectionChanged(selected, deselected);
+    if (selected.isEmpty())
+        return;
+    // Not in the middle of the selection, because the choice may put other rows here.
+    const auto chooseAndClear = [this, index = QPersistentModelIndex(selected.indexes().first())] {
+        clearSelection();
+        choose(index);
+    };
+    QMetaObject::invokeMethod(this, chooseAndClear, Qt::QueuedConnection);
+}
+
 int ApplicationListView::verticalOffset() const
 {
     // The margin above the first row scrolls away with it.

@@ -14,7 +14,8 @@ class ApplicationIcons;
 class ApplicationRows;
 
 /// A list of applications of which one can be chosen: by a click, or with Return or Space on the row that has the
-/// keyboard. Only rows that show are painted and only their icons are read, so it may be as long as it likes.
+/// keyboard. Assistive technology chooses by selecting; nothing else selects. Only rows that show are painted and only
+/// their icons are read, so it may be as long as it likes.
 class ApplicationListView : public QListView
 {
     Q_OBJECT
@@ -49,6 +50,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void updateGeometries() override;
     [[nodiscard]] int verticalOffset() const override;
+    [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(
+        const QModelIndex& index, const QEvent* event) const override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
 private:
     class Delegate;

@@ -194,6 +194,22 @@ TEST_F(List, assistiveTechnologyFindsAListWithNamedRows)
     EXPECT_TRUE(list->child(0)->state().focused);
 }
 
+TEST_F(List, assistiveTechnologyChoosesByDoingWhatARowOffers)
+{
+    show(3);
+    view.setFocus();
+    press(Qt::Key_Down);
+    EXPECT_TRUE(view.selectionModel()->selectedIndexes().isEmpty()) << "the keyboard moves without selecting";
+    QAccessibleInterface* const row = QAccessible::queryAccessibleInterface(&view)->child(1);
+    QAccessibleActionInterface* const actions = row->actionInterface();
+    ASSERT_NE(actions, nullptr);
+    actions->doAction(actions->actionNames().value(0));
+    EXPECT_EQ(chosen, QStringList()) << "not before the next turn";
+    QTest::qWait(0);
+    EXPECT_EQ(chosen, QStringList{u"Application 1"_qs});
+    EXPECT_TRUE(view.selectionModel()->selectedIndexes().isEmpty());
+}
+
 TEST_F(List, isAsHighAsItsRowsWantIt)
 {
     const ApplicationRowLook look;
