@@ -78,7 +78,7 @@ std::vector<std::optional<SpringColumn::Place>> SpringColumn::places(int width) 
             continue;
         }
         const int height = item.hasHeightForWidth() ? item.heightForWidth(room) : item.sizeHint().height();
-        all.push_back(Place{.top = top, .height = height});
+        all.emplace_back(Place{.top = top, .height = height});
         top += height + m_spacing;
     }
     return all;

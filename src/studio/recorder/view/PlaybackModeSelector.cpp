@@ -92,7 +92,6 @@ private:
 PlaybackModeSelector::PlaybackModeSelector(QWidget* parent)
     : QWidget(parent)
     , m_heading(new TextLabel({}, headingText, white.at(0.45)))
-    , m_buttons{}
     , m_explanation(new TextBlock({}, explanationText, white.at(0.45)))
 {
     auto* const buttons = new QHBoxLayout;

@@ -33,7 +33,7 @@ private:
     class ModeButton;
 
     TextLabel* m_heading;
-    std::array<ModeButton*, 2> m_buttons; ///< by mode
+    std::array<ModeButton*, 2> m_buttons{}; ///< by mode
     TextBlock* m_explanation;
     std::optional<MultiKeyPlaybackMode> m_shown;
 };
