@@ -1,6 +1,8 @@
-// What it costs to show the Studio: the first frame, a frame of a key that moves, a frame of a window that is resized.
-// Run without a display it draws into memory; with QT_QPA_PLATFORM=xcb and DISPLAY it shows real windows.
+// What it costs to show the Studio: the first frame, a frame of a key that moves, a frame of a window that is resized;
+// and its action picker: until it shows, a keystroke in its search, a step of its list. Run without a display it draws
+// into memory; with QT_QPA_PLATFORM=xcb and DISPLAY it shows real windows.
 
+#include "app/StudioViews.h"
 #include "app/core/NoToolPanelWindows.h"
 #include "app/core/SharedObjects.h"
 #include "interception/AccessibilityHelper.h"
@@ -15,11 +17,15 @@
 #include "studio/StudioWindow.h"
 #include "studio/keyboard/KeyButton.h"
 #include "studio/keyboard/MacBookAirKeyboardView.h"
+#include "studio/picker/view/ActionPickerView.h"
+#include "studio/picker/view/PickerList.h"
 #include "ui/InterfaceStyle.h"
+#include "ui/TextField.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QImage>
+#include <QScrollBar>
 
 #include <benchmark/benchmark.h>
 
@@ -50,13 +56,18 @@ public:
                                                   .backgroundModeManager = m_objects.backgroundModeManager(),
                                                   .accessibilityHelper = m_objects.accessibilityHelper(),
                                                   .openKeyboardSettings = [] {}},
-            StudioSurfaces{});
+            m_views.surfaces());
+    }
+    QWidget* makePicker(FKey key)
+    {
+        return m_views.surfaces().makeActionPicker(key, [] {});
     }
 
 private:
     simulated::SimulatedPlatform m_platform;
     NoToolPanelWindows m_panels;
     SharedObjects m_objects{m_platform.ports(), m_panels};
+    StudioViews m_views{m_platform.ports(), m_objects};
 };
 
 /// Tells when a widget has been painted.
@@ -155,6 +166,88 @@ void resizeStep(benchmark::State& state)
     }
 }
 BENCHMARK(resizeStep)->Unit(benchmark::kMillisecond);
+
+/// From the click on a key until the picker's first frame, which waits for the first step of its way in.
+void openPicker(benchmark::State& state)
+{
+    Managers managers;
+    const auto window = managers.makeWindow();
+    showUntilPainted(*window);
+    MacBookAirKeyboardView& keyboard = window->content().body().keyboard();
+    for ([[maybe_unused]] auto _ : state) {
+        keyboard.setSelectedKey(FKey::f5);
+        const PaintWatch watch(*window->content().actionPicker());
+        while (!watch.isPainted)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+        state.PauseTiming();
+        keyboard.setSelectedKey(std::nullopt);
+        while (window->content().actionPicker())
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(openPicker)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+/// The picker alone, at once: made, laid out and painted into an image of that scale.
+void makeAndPaintPicker(benchmark::State& state)
+{
+    Managers managers;
+    const QSize size(330, 800);
+    QImage image(size * static_cast<double>(state.range(0)), QImage::Format_RGB32);
+    image.setDevicePixelRatio(static_cast<double>(state.range(0)));
+    for ([[maybe_unused]] auto _ : state) {
+        const std::unique_ptr<QWidget> picker(managers.makePicker(FKey::f5));
+        picker->resize(size);
+        picker->render(&image);
+    }
+}
+BENCHMARK(makeAndPaintPicker)->Arg(1)->Arg(2)->Unit(benchmark::kMillisecond);
+
+/// A picker to work with, painted once.
+class OpenPicker
+{
+public:
+    OpenPicker()
+        : picker(dynamic_cast<ActionPickerView*>(m_managers.makePicker(FKey::f5)))
+    {
+        picker->resize(image.size());
+        picker->render(&image);
+    }
+
+private:
+    Managers m_managers;
+
+public:
+    QImage image{330, 800, QImage::Format_RGB32};
+    std::unique_ptr<ActionPickerView> picker;
+};
+
+/// One more letter in the search: found, laid out and painted.
+void typeIntoPicker(benchmark::State& state)
+{
+    const OpenPicker open;
+    QImage image = open.image;
+    const QStringList texts{QStringLiteral("m"), QStringLiteral("mu"), QStringLiteral("mut"), QString()};
+    int step = 0;
+    for ([[maybe_unused]] auto _ : state) {
+        open.picker->searchField().setText(texts[step++ % texts.size()]);
+        open.picker->render(&image);
+    }
+}
+BENCHMARK(typeIntoPicker)->Unit(benchmark::kMillisecond);
+
+/// One step of the wheel over the list, with everything in the pane painted again.
+void scrollPicker(benchmark::State& state)
+{
+    const OpenPicker open;
+    QImage image = open.image;
+    QScrollBar& bar = *open.picker->list().verticalScrollBar();
+    for ([[maybe_unused]] auto _ : state) {
+        bar.setValue(bar.value() >= bar.maximum() ? 0 : bar.value() + 60);
+        open.picker->render(&image);
+    }
+}
+BENCHMARK(scrollPicker)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
