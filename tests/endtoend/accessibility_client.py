@@ -11,7 +11,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 STATES = {"checked": Atspi.StateType.CHECKED, "selected": Atspi.StateType.SELECTED, "showing": Atspi.StateType.SHOWING,
-          "enabled": Atspi.StateType.ENABLED, "focused": Atspi.StateType.FOCUSED}
+          "enabled": Atspi.StateType.ENABLED, "focused": Atspi.StateType.FOCUSED, "expanded": Atspi.StateType.EXPANDED}
 
 
 def children(parent):
@@ -51,7 +51,16 @@ def press(application, name):
     return False
 
 
-METHODS = {"everything": everything, "press": press}
+def place(application, name):
+    """Where on the screen the object of that name is: left, top, width and height; none while it isn't in sight."""
+    for thing in objects(application):
+        if thing.get_name() == name and thing.get_state_set().contains(Atspi.StateType.SHOWING):
+            box = thing.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+            return [box.x, box.y, box.width, box.height]
+    return None
+
+
+METHODS = {"everything": everything, "press": press, "place": place}
 
 Atspi.init()
 for line in sys.stdin:
