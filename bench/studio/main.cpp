@@ -2,7 +2,7 @@
 // and its action picker: until it shows, a keystroke in its search, a step of its list. Run without a display it draws
 // into memory; with QT_QPA_PLATFORM=xcb and DISPLAY it shows real windows.
 
-#include "app/StudioViews.h"
+#include "app/StudioPicker.h"
 #include "app/core/NoToolPanelWindows.h"
 #include "app/core/SharedObjects.h"
 #include "interception/AccessibilityHelper.h"
@@ -56,18 +56,25 @@ public:
                                                   .backgroundModeManager = m_objects.backgroundModeManager(),
                                                   .accessibilityHelper = m_objects.accessibilityHelper(),
                                                   .openKeyboardSettings = [] {}},
-            m_views.surfaces());
+            surfaces());
     }
     QWidget* makePicker(FKey key)
     {
-        return m_views.surfaces().makeActionPicker(key, [] {});
+        return m_picker.makePane(key, [] {});
     }
 
 private:
+    StudioSurfaces surfaces()
+    {
+        StudioSurfaces surfaces;
+        m_picker.addTo(surfaces);
+        return surfaces;
+    }
+
     simulated::SimulatedPlatform m_platform;
     NoToolPanelWindows m_panels;
     SharedObjects m_objects{m_platform.ports(), m_panels};
-    StudioViews m_views{m_platform.ports(), m_objects};
+    StudioPicker m_picker{m_platform.ports(), m_objects};
 };
 
 /// Tells when a widget has been painted.

@@ -4,7 +4,7 @@
 #include "app/DrawnToolPanels.h"
 #include "app/LinuxDesktop.h"
 #include "app/ProgramCommands.h"
-#include "app/StudioViews.h"
+#include "app/StudioPicker.h"
 #include "app/core/SharedObjects.h"
 #include "interception/EventTapManager.h"
 #include "interception/RuntimeLog.h"
@@ -169,8 +169,9 @@ private:
                             QStringLiteral("No keyboard settings are installed on this desktop"));
                 },
         };
-        m_studioViews.emplace(m_desktop.ports(), m_objects);
-        m_studioWindow = std::make_unique<StudioWindow>(collaborators, m_studioViews->surfaces());
+        StudioSurfaces surfaces;
+        m_picker.emplace(m_desktop.ports(), m_objects).addTo(surfaces);
+        m_studioWindow = std::make_unique<StudioWindow>(collaborators, std::move(surfaces));
         AppWindow& window = m_desktop.shell.addWindow(*m_studioWindow, desktop::AppWindowKind::ordinary);
         m_objects.backgroundModeManager().setMainWindow(&window);
         window.makeKeyAndOrderFront();
@@ -181,9 +182,9 @@ private:
     DrawnToolPanels m_panels;
     SharedObjects m_objects;
     ProgramCommands m_commands;
+    std::optional<StudioPicker> m_picker; ///< with the window
     std::optional<desktop::TrayLookout> m_trayLookout;
     std::optional<MenuBarItem> m_menuBarItem;
-    std::optional<StudioViews> m_studioViews;
 };
 
 } // namespace

@@ -4,7 +4,7 @@
 //   tarvin-studio-pictures FOLDER
 
 #include "actions/usage/ActionUsageTracker.h"
-#include "app/StudioViews.h"
+#include "app/StudioPicker.h"
 #include "app/core/NoToolPanelWindows.h"
 #include "app/core/SharedObjects.h"
 #include "interception/AccessibilityHelper.h"
@@ -74,7 +74,7 @@ public:
                                 .backgroundModeManager = m_objects.backgroundModeManager(),
                                 .accessibilityHelper = m_objects.accessibilityHelper(),
                                 .openKeyboardSettings = [] {}},
-            m_views.surfaces());
+            surfaces());
         window.resize(size);
         // Before the window is shown nothing moves, so what is drawn is at rest.
         if (prepare)
@@ -92,10 +92,17 @@ public:
     void notice(const QString& text) { m_objects.eventTapManager().recordTriggerDirectly(text); }
 
 private:
+    StudioSurfaces surfaces()
+    {
+        StudioSurfaces surfaces;
+        m_picker.addTo(surfaces);
+        return surfaces;
+    }
+
     simulated::SimulatedPlatform m_platform;
     NoToolPanelWindows m_panels;
     SharedObjects m_objects{m_platform.ports(), m_panels};
-    StudioViews m_views{m_platform.ports(), m_objects};
+    StudioPicker m_picker{m_platform.ports(), m_objects};
 };
 
 /// The window as it comes to rest with a key selected and perhaps a search typed.

@@ -1,4 +1,4 @@
-#include "app/StudioViews.h"
+#include "app/StudioPicker.h"
 
 #include "platform/ports/ApplicationFolders.h"
 #include "studio/applications/view/ApplicationPictures.h"
@@ -40,31 +40,29 @@ private:
 
 } // namespace
 
-StudioViews::StudioViews(const Platform& platform, SharedObjects& objects)
-    : m_platform(platform)
+StudioPicker::StudioPicker(const Platform& platform, SharedObjects& objects)
+    : m_uuids(platform.uuids)
     , m_editing(platform, objects)
     , m_icons(platform.scheduler, picturesOf(platform.applicationFolders))
 { }
 
-StudioViews::~StudioViews()
+StudioPicker::~StudioPicker()
 {
-    for (const QPointer<QWidget>& view : m_open)
-        delete view;
+    for (const QPointer<QWidget>& pane : m_panes)
+        delete pane;
 }
 
-StudioSurfaces StudioViews::surfaces()
+void StudioPicker::addTo(StudioSurfaces& surfaces)
 {
-    return {.makeActionPicker = [this](FKey key,
-                                    StudioSurfaces::Close close) { return makeActionPicker(key, std::move(close)); },
-        .showSettings = {},
-        .showAddApplication = {}};
+    surfaces.makeActionPicker = [this](
+                                    FKey key, StudioSurfaces::Close close) { return makePane(key, std::move(close)); };
 }
 
-QWidget* StudioViews::makeActionPicker(FKey key, StudioSurfaces::Close close)
+QWidget* StudioPicker::makePane(FKey key, StudioSurfaces::Close close)
 {
-    auto* const pane = new EditingPane(m_editing.editKey(key), std::move(close), m_platform.uuids, m_icons);
-    std::erase_if(m_open, [](const QPointer<QWidget>& view) { return view.isNull(); });
-    m_open.emplace_back(pane);
+    auto* const pane = new EditingPane(m_editing.editKey(key), std::move(close), m_uuids, m_icons);
+    std::erase_if(m_panes, [](const QPointer<QWidget>& each) { return each.isNull(); });
+    m_panes.emplace_back(pane);
     return pane;
 }
 
