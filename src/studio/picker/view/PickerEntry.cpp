@@ -3,7 +3,7 @@
 #include "studio/picker/ActionPickerModel.h"
 #include "studio/picker/view/PickerMetrics.h"
 #include "studio/picker/view/RowBadges.h"
-#include "studio/picker/view/TestButton.h"
+#include "ui/ConfirmButton.h"
 #include "ui/Palette.h"
 #include "ui/Plates.h"
 
@@ -21,6 +21,20 @@ using namespace pickermetrics;
 
 constexpr double radius = 8;
 constexpr int testGap = 6;
+constexpr int testHeight = 24;
+constexpr ButtonLook testLook{.height = testHeight,
+    .radius = 6,
+    .inset = 0,
+    .symbolSize = 10,
+    .spacing = 6,
+    .text = {.size = 10, .weight = TextWeight::bold, .face = TextFace::rounded},
+    .symbolColour = palette::black,
+    .textColour = palette::black,
+    .fill = {0.0, 0.82, 0.62},
+    .hoveredFill = {0.1, 0.87, 0.68},
+    .stroke = palette::white.at(0)};
+constexpr ConfirmButton::Motions testMotions{
+    .confirming = Motion::spring(0.25, 0.7), .returning = Motion::easeInOut(std::chrono::milliseconds(350))};
 constexpr int bottomPadding = 8;
 
 int heightOf(const QWidget& body)
@@ -68,8 +82,14 @@ void PickerEntry::follow()
         || shown != (badge ? badge->text : QString()))
         m_row->showAction(m_pickerRow.action, badge, m_detail);
     select(m_model.isSelected(m_pickerRow));
+    followTest();
+}
+
+void PickerEntry::followTest()
+{
+    using Says = ConfirmButton::Says;
     if (m_testButton)
-        m_testButton->showText(m_model.testButtonText(), m_model.hasTestMessage());
+        m_testButton->showText(m_model.testButtonText(), m_model.hasTestMessage() ? Says::confirmation : Says::offer);
 }
 
 void PickerEntry::select(bool isSelected)
@@ -104,8 +124,8 @@ void PickerEntry::open()
         return;
     if (m_pickerRow.card && m_makeCardBody)
         m_body = m_makeCardBody(*m_pickerRow.card, m_opened);
-    m_testButton = new TestButton(m_opened);
-    m_testButton->showText(m_model.testButtonText(), m_model.hasTestMessage());
+    m_testButton = new ConfirmButton(testLook, testMotions, m_opened);
+    followTest();
     connect(m_testButton, &QAbstractButton::clicked, this, [this] { m_model.test(); });
     for (QWidget* const part : {m_body, static_cast<QWidget*>(m_testButton)}) {
         if (part)
@@ -131,7 +151,7 @@ void PickerEntry::close()
 
 int PickerEntry::openHeight() const
 {
-    return (m_body ? heightOf(*m_body) : 0) + testGap + TestButton::buttonHeight + bottomPadding;
+    return (m_body ? heightOf(*m_body) : 0) + testGap + testHeight + bottomPadding;
 }
 
 int PickerEntry::currentHeight() const
@@ -152,7 +172,7 @@ void PickerEntry::layOut()
             y = heightOf(*m_body);
             m_body->setGeometry(bodyInset, 0, bodyWidth, y);
         }
-        m_testButton->setGeometry(bodyInset, y + testGap, bodyWidth, TestButton::buttonHeight);
+        m_testButton->setGeometry(bodyInset, y + testGap, bodyWidth, testHeight);
         m_opened->setGeometry(0, top, rowWidth, currentHeight() - top);
     }
     resize(rowWidth, currentHeight());

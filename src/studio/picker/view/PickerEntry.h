@@ -11,7 +11,7 @@
 namespace tarvin {
 
 class ActionPickerModel;
-class TestButton;
+class ConfirmButton;
 
 /// Makes what a card opens while it is selected. It follows what it shows by itself, and asks for another height as
 /// every widget does. Null for a card that opens nothing.
@@ -37,7 +37,7 @@ public:
     /// Null while the entry is closed, and for a plain row.
     [[nodiscard]] QWidget* body() const { return m_body; }
     /// Null while the entry is closed.
-    [[nodiscard]] TestButton* testButton() const { return m_testButton; }
+    [[nodiscard]] ConfirmButton* testButton() const { return m_testButton; }
     /// At this moment of the movement.
     [[nodiscard]] int currentHeight() const;
     [[nodiscard]] bool isMoving() const { return m_selection.state() == QAbstractAnimation::Running; }
@@ -53,6 +53,7 @@ protected:
 
 private:
     void select(bool isSelected);
+    void followTest();
     void step();
     void open();
     void close();
@@ -66,7 +67,7 @@ private:
     ActionRow* m_row;
     QWidget* m_opened; ///< cuts off what has not opened yet
     QWidget* m_body = nullptr;
-    TestButton* m_testButton = nullptr;
+    ConfirmButton* m_testButton = nullptr;
     AnimatedValue m_selection; ///< from 0 to 1
 };
 

@@ -6,8 +6,8 @@
 #include "studio/picker/view/PickerSectionHeader.h"
 #include "studio/picker/view/PickerSectionView.h"
 #include "studio/picker/view/SearchResultsView.h"
-#include "studio/picker/view/TestButton.h"
 #include "studio/picker/view/UsageFilterSwitch.h"
+#include "ui/ConfirmButton.h"
 #include "ui/OutlinedButton.h"
 #include "ui/OverlayScrollBar.h"
 

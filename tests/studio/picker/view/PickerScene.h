@@ -8,7 +8,7 @@
 #include "studio/picker/view/PickerSectionHeader.h"
 #include "studio/picker/view/PickerSectionView.h"
 #include "studio/picker/view/SearchResultsView.h"
-#include "studio/picker/view/TestButton.h"
+#include "ui/ConfirmButton.h"
 #include "ui/TextField.h"
 
 #include <QAccessible>
