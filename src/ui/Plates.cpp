@@ -94,6 +94,20 @@ void strokePlate(QPainter& painter, const QRectF& box, double radius, double lin
     strokePlate(painter, box, radius, lineWidth, QBrush(colour.toQColor()));
 }
 
+void fillContinuous(QPainter& painter, const QRectF& box, double radius, const Colour& colour)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(continuousRectangle(box, radius), colour.toQColor());
+}
+
+void strokeContinuous(QPainter& painter, const QRectF& box, double radius, double lineWidth, const Colour& colour)
+{
+    const double inset = lineWidth / 2;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(continuousRectangle(box.adjusted(inset, inset, -inset, -inset), radius - inset),
+        QPen(colour.toQColor(), lineWidth));
+}
+
 void drawHairline(QPainter& painter, double left, double right, double y, const Colour& colour)
 {
     painter.fillRect(QRectF(left, y, right - left, 1), colour.toQColor());

@@ -25,6 +25,12 @@ void fillPlate(QPainter& painter, const QRectF& box, double radius, const Colour
 void strokePlate(QPainter& painter, const QRectF& box, double radius, double lineWidth, const QBrush& brush);
 void strokePlate(QPainter& painter, const QRectF& box, double radius, double lineWidth, const Colour& colour);
 
+// The same with corners that begin gently.
+
+void fillContinuous(QPainter& painter, const QRectF& box, double radius, const Colour& colour);
+/// The stroke lies wholly within the box.
+void strokeContinuous(QPainter& painter, const QRectF& box, double radius, double lineWidth, const Colour& colour);
+
 /// Height 1, from left to right.
 void drawHairline(QPainter& painter, double left, double right, double y, const Colour& colour);
 

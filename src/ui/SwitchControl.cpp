@@ -31,6 +31,12 @@ SwitchControl::SwitchControl(const QString& name, QSizeF size, QWidget* parent)
     });
 }
 
+void SwitchControl::setOpacity(double opacity)
+{
+    m_opacity = opacity;
+    update();
+}
+
 QSize SwitchControl::sizeHint() const
 {
     return (m_size + QSizeF(2 * ringRoom, 2 * ringRoom)).toSize();
@@ -39,6 +45,7 @@ QSize SwitchControl::sizeHint() const
 void SwitchControl::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
+    painter.setOpacity(m_opacity);
     QRectF track(QPointF(), m_size);
     track.moveCenter(QRectF(rect()).center());
     const double radius = track.height() / 2;
@@ -50,7 +57,7 @@ void SwitchControl::paintEvent(QPaintEvent* /*event*/)
         diameter, diameter);
     drawShadow(painter, knob.translated(0, 0.5),
         {.colour = palette::black.at(0.3), .sigma = 0.8, .cornerRadius = diameter / 2});
-    fillPlate(painter, knob, diameter / 2, palette::white.at(isEnabled() ? 0.97 : 0.5));
+    fillPlate(painter, knob, diameter / 2, palette::white.at(isEnabled() ? 0.83 + 0.14 * position : 0.5));
     drawFocusRing(painter, track.adjusted(-ringRoom, -ringRoom, ringRoom, ringRoom), radius + ringRoom);
 }
 

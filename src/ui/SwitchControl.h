@@ -18,6 +18,8 @@ public:
     /// @param name what is switched, for assistive technology
     explicit SwitchControl(const QString& name, QSizeF size = smallSize, QWidget* parent = nullptr);
 
+    /// Of all that is drawn; 1 at first.
+    void setOpacity(double opacity);
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
@@ -25,6 +27,7 @@ protected:
 
 private:
     QSizeF m_size;
+    double m_opacity = 1;
     AnimatedValue m_position;
 };
 

@@ -104,14 +104,15 @@ QString elidedText(const QString& text, const TextStyle& style, double width)
 {
     if (textWidth(text, style) <= width)
         return text;
-    QString kept = text;
-    while (!kept.isEmpty()) {
-        kept.chop(1);
-        QString candidate = kept.trimmed() + QChar(u'…');
-        if (textWidth(candidate, style) <= width)
-            return candidate;
+    // By halves, because what users paste may be long.
+    const auto candidate = [&text](qsizetype length) { return text.first(length).trimmed() + QChar(u'…'); };
+    qsizetype fitting = 0;
+    qsizetype tooLong = text.size();
+    while (tooLong - fitting > 1) {
+        const qsizetype middle = (fitting + tooLong) / 2;
+        (textWidth(candidate(middle), style) <= width ? fitting : tooLong) = middle;
     }
-    return {};
+    return fitting > 0 ? candidate(fitting) : QString();
 }
 
 void drawText(QPainter& painter, const QRectF& box, Qt::Alignment alignment, const QString& text,
