@@ -5,6 +5,7 @@
 #include "app/LinuxDesktop.h"
 #include "app/ProgramCommands.h"
 #include "app/StudioPicker.h"
+#include "app/StudioSheets.h"
 #include "app/core/SharedObjects.h"
 #include "interception/EventTapManager.h"
 #include "interception/RuntimeLog.h"
@@ -171,6 +172,7 @@ private:
         };
         StudioSurfaces surfaces;
         m_picker.emplace(m_desktop.ports(), m_objects).addTo(surfaces);
+        m_sheets.emplace(m_desktop.ports(), m_objects).addTo(surfaces);
         m_studioWindow = std::make_unique<StudioWindow>(collaborators, std::move(surfaces));
         AppWindow& window = m_desktop.shell.addWindow(*m_studioWindow, desktop::AppWindowKind::ordinary);
         m_objects.backgroundModeManager().setMainWindow(&window);
@@ -183,6 +185,7 @@ private:
     SharedObjects m_objects;
     ProgramCommands m_commands;
     std::optional<StudioPicker> m_picker; ///< with the window
+    std::optional<StudioSheets> m_sheets; ///< with the window
     std::optional<desktop::TrayLookout> m_trayLookout;
     std::optional<MenuBarItem> m_menuBarItem;
 };
