@@ -7,6 +7,7 @@
 #include "app/StudioPicker.h"
 #include "app/core/NoToolPanelWindows.h"
 #include "app/core/SharedObjects.h"
+#include "app/core/StudioEditing.h"
 #include "interception/AccessibilityHelper.h"
 #include "interception/EventTapManager.h"
 #include "interception/FnKeyModeHelper.h"
@@ -18,10 +19,17 @@
 #include "studio/StudioBody.h"
 #include "studio/StudioWindow.h"
 #include "studio/TarvinLogoView.h"
+#include "studio/applications/view/AddAppSheet.h"
+#include "studio/applications/view/ApplicationIcons.h"
 #include "studio/keyboard/MacBookAirKeyboardView.h"
 #include "studio/picker/view/ActionPickerView.h"
+#include "studio/settings/view/SettingsSheet.h"
+#include "studio/settings/view/SettingsTabBar.h"
+#include "studio/settings/view/SettingsTabButton.h"
 #include "ui/InterfaceStyle.h"
 #include "ui/Palette.h"
+#include "ui/Plates.h"
+#include "ui/Sheet.h"
 #include "ui/TextField.h"
 
 #include <QApplication>
@@ -39,6 +47,18 @@ namespace {
 using namespace tarvin;
 
 constexpr std::array scales{1, 2};
+
+/// A tile in a colour that depends on the name.
+QImage inventedIcon(const QString& icon, int pixels)
+{
+    QImage image(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    fillPlate(painter, image.rect(), pixels / 5.0, QColor::fromHsv(static_cast<int>(icon.size()) * 53 % 360, 150, 190));
+    fillPlate(
+        painter, image.rect().adjusted(pixels / 3, pixels / 3, -pixels / 3, -pixels / 3), pixels / 12.0, Qt::white);
+    return image;
+}
 
 /// One state of the Studio on a desktop in memory.
 class Scene
@@ -89,6 +109,24 @@ public:
         }
     }
 
+    void showSettings(StudioWindow& window, SettingsTab tab)
+    {
+        const Sheet* const sheet = Sheet::present(
+            window, [this](Sheet::Close close) { return new SettingsSheet(m_editing.settings(std::move(close))); });
+        dynamic_cast<SettingsSheet&>(sheet->panel()).tabs().button(tab).click();
+    }
+    /// @param typed in the search field
+    void showAddApplication(StudioWindow& window, const QString& typed)
+    {
+        const Sheet* const sheet = Sheet::present(window, [this](Sheet::Close close) {
+            return new AddAppSheet(m_editing.addApplication(std::move(close)), m_icons);
+        });
+        dynamic_cast<AddAppSheet&>(sheet->panel()).searchField().setText(typed);
+        m_platform.scheduler().runPosted(); // what is installed
+        static_cast<void>(window.grab());
+        m_platform.scheduler().runPosted(); // the icons that are seen
+    }
+
     void notice(const QString& text) { m_objects.eventTapManager().recordTriggerDirectly(text); }
 
 private:
@@ -103,6 +141,8 @@ private:
     NoToolPanelWindows m_panels;
     SharedObjects m_objects{m_platform.ports(), m_panels};
     StudioPicker m_picker{m_platform.ports(), m_objects};
+    StudioEditing m_editing{m_platform.ports(), m_objects};
+    ApplicationIcons m_icons{m_platform.scheduler(), inventedIcon};
 };
 
 /// The window as it comes to rest with a key selected and perhaps a search typed.
@@ -162,6 +202,38 @@ void drawLogo(const QString& file)
     image.save(file + QStringLiteral(".png"));
 }
 
+void drawSheets(const QString& folder)
+{
+    Scene settings;
+    settings.customise(dozen);
+    settings.profile().setOtherKeysEnabled(false);
+    settings.draw(folder + QStringLiteral("-settings-keyboard"),
+        [](Scene& scene, StudioWindow& window) { scene.showSettings(window, SettingsTab::keyboardFlexibility); });
+    Scene startup;
+    startup.draw(folder + QStringLiteral("-settings-startup"),
+        [](Scene& scene, StudioWindow& window) { scene.showSettings(window, SettingsTab::backgroundAndStartup); });
+    Scene masterOff;
+    masterOff.customise(dozen);
+    masterOff.profile().setInterceptionEnabled(false);
+    masterOff.draw(folder + QStringLiteral("-settings-off"),
+        [](Scene& scene, StudioWindow& window) { scene.showSettings(window, SettingsTab::keyboardFlexibility); });
+    for (const auto& [name, typed] : {std::pair{QStringLiteral("-add-application"), QString()},
+             std::pair{QStringLiteral("-add-application-search"), QStringLiteral("ca")},
+             std::pair{QStringLiteral("-add-application-nothing"), QStringLiteral("no such thing")}}) {
+        Scene scene;
+        for (const QString& application :
+            {QStringLiteral("Books"), QStringLiteral("Calculator"), QStringLiteral("Calendar"), QStringLiteral("Clock"),
+                QStringLiteral("Contacts"), QStringLiteral("Mail"), QStringLiteral("Maps"), QStringLiteral("Messages"),
+                QStringLiteral("Photographs"), QStringLiteral("System Settings")})
+            scene.platform().applicationFolders().install(ApplicationFolder::applications,
+                {.path = QStringLiteral("/Applications/%1.app").arg(application),
+                    .bundleIdentifier = QStringLiteral("com.example.") + application.toLower().remove(u' '),
+                    .icon = application});
+        scene.draw(
+            folder + name, [&typed](Scene& drawn, StudioWindow& window) { drawn.showAddApplication(window, typed); });
+    }
+}
+
 } // namespace
 
 int main(int argumentCount, char** arguments)
@@ -189,6 +261,7 @@ int main(int argumentCount, char** arguments)
     waiting.customise({{FKey::f5, KeyAction::clipboardHistory}, {FKey::capsLock, KeyAction::actionChain}});
     waiting.platform().permission().setTrusted(false);
     waiting.draw(folder + QStringLiteral("-without-permission"));
+    drawSheets(folder);
     drawLogo(folder + QStringLiteral("-logo"));
     return 0;
 }
