@@ -28,6 +28,11 @@ FrameSocket FrameSocket::connectTo(const std::string& path)
     return FrameSocket(std::move(descriptor));
 }
 
+FrameSocket FrameSocket::share() const
+{
+    return FrameSocket(FileDescriptor(::fcntl(m_descriptor.get(), F_DUPFD_CLOEXEC, 0)));
+}
+
 bool FrameSocket::send(std::span<const std::byte> message) const
 {
     const ssize_t sent = ::send(m_descriptor.get(), message.data(), message.size(), MSG_NOSIGNAL | MSG_DONTWAIT);

@@ -26,6 +26,9 @@ public:
     /// @return not open where nobody listens
     [[nodiscard]] static FrameSocket connectTo(const std::string& path);
 
+    /// A second owner of the same connection; it ends when both have closed it.
+    [[nodiscard]] FrameSocket share() const;
+
     [[nodiscard]] bool isOpen() const { return m_descriptor.isOpen(); }
     [[nodiscard]] int descriptor() const { return m_descriptor.get(); }
     void close() { m_descriptor.reset(); }

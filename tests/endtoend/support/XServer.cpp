@@ -32,7 +32,8 @@ std::string xorgConfiguration(const std::string& directory)
     return "Section \"ServerFlags\"\n Option \"AutoAddDevices\" \"false\"\n Option \"AutoAddGPU\" \"false\"\n"
            " Option \"AllowMouseOpenFail\" \"true\"\n Option \"DontVTSwitch\" \"true\"\nEndSection\n"
         + keyboardSection("Test keyboard", directory + "/first")
-        + keyboardSection("Second keyboard", directory + "/second")
+        + keyboardSection(XServer::secondKeyboardName, directory + "/second")
+        + keyboardSection(XServer::postingKeyboardName, directory + "/posting")
         + "Section \"Device\"\n Identifier \"dummy\"\n Driver \"dummy\"\n VideoRam 65536\nEndSection\n"
           "Section \"Monitor\"\n Identifier \"monitor\"\n HorizSync 5.0 - 1000.0\n VertRefresh 5.0 - 200.0\n"
           " Modeline \"1280x800\" 83.50 1280 1352 1480 1680 800 803 809 831\nEndSection\n"
@@ -40,6 +41,7 @@ std::string xorgConfiguration(const std::string& directory)
           " SubSection \"Display\"\n  Depth 24\n  Modes \"1280x800\"\n  Virtual 1280 800\n EndSubSection\nEndSection\n"
           "Section \"ServerLayout\"\n Identifier \"layout\"\n Screen \"screen\"\n"
           " InputDevice \"Test keyboard\" \"CoreKeyboard\"\n InputDevice \"Second keyboard\" \"SendCoreEvents\"\n"
+          " InputDevice \"Tarvin posted keys\" \"SendCoreEvents\"\n"
           "EndSection\n";
 }
 

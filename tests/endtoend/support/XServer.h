@@ -15,7 +15,7 @@ class XServer
 public:
     enum class Kind {
         virtualFramebuffer, ///< Xvfb, with one keyboard
-        dummyXorg, ///< the real Xorg on a dummy screen, with two keyboards
+        dummyXorg, ///< the real Xorg on a dummy screen, with two keyboards and the one that the tap daemon posts on
         bareXorg, ///< the same where no session has set a keymap: posted keys are counted in another way than pressed
                   ///< ones
     };
@@ -38,6 +38,7 @@ public:
     /// The names of the devices that `PhysicalKeyboard` presses keys on.
     [[nodiscard]] const char* keyboardName() const;
     static constexpr const char* secondKeyboardName = "Second keyboard";
+    static constexpr const char* postingKeyboardName = "Tarvin posted keys";
 
     /// Gives every keyboard another layout.
     void setLayout(const std::string& layout, const std::string& variant = {}, const std::string& option = {}) const;

@@ -23,6 +23,10 @@ constexpr std::uint16_t inputMinor = 2;
 
 constexpr std::uint8_t secondaryButton = 3;
 
+constexpr QLatin1String postingName(tapd::postingDeviceName.data(), tapd::postingDeviceName.size());
+/// How the X server of a Wayland session names its devices.
+constexpr QLatin1String waylandPrefix("xwayland-");
+
 constexpr std::array<std::uint32_t, 1> anyModifier{XCB_INPUT_MODIFIER_MASK_ANY};
 
 std::span<const std::uint32_t> orAny(std::span<const std::uint32_t> modifiers)
@@ -153,9 +157,11 @@ Keyboards InputConnection::keyboards()
             devices.push_back(info.data->deviceid);
     }
     for (const DeviceId device : devices) {
-        if (isPostingDevice(device))
-            continue;
-        if (!isFakingDevice(device))
+        const QString name = nameOf(device);
+        found.areOfAnotherSession = found.areOfAnotherSession || name.startsWith(waylandPrefix);
+        if (name == postingName)
+            found.posting = device;
+        else if (!isFakingDevice(device))
             found.physical.push_back(device);
         else if (found.faking == 0) // further ones belong to further pairs of pointer and keyboard
             found.faking = device;
@@ -174,7 +180,7 @@ bool InputConnection::isFakingDevice(DeviceId device)
 
 bool InputConnection::isPostingDevice(DeviceId device)
 {
-    return nameOf(device) == QLatin1String(tapd::postingDeviceName.data(), tapd::postingDeviceName.size());
+    return nameOf(device) == postingName;
 }
 
 QString InputConnection::nameOf(DeviceId device)

@@ -36,6 +36,8 @@ struct Keyboards
 {
     std::vector<DeviceId> physical; ///< those that a user can press keys on
     DeviceId faking = 0; ///< where the events that programs ask for are made
+    DeviceId posting = 0; ///< the tap daemon's for what this program posts; 0 where this server does not have it
+    bool areOfAnotherSession = false; ///< the server stands in for a Wayland session and sees only a part of its keys
 };
 
 /// The conversation with one X server about keyboards, in the words of the project. Used by one thread.

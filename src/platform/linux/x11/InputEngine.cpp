@@ -42,7 +42,7 @@ InputEngine::~InputEngine()
 void InputEngine::handleEvents()
 {
     for (;;) {
-        while (const auto event = m_connection->nextEvent()) {
+        while (const auto event = takeEvent()) {
             handle(*event);
             m_connection->flush();
         }
@@ -97,7 +97,9 @@ void InputEngine::handle(const RawKey& raw, RequestSequence request)
         }
     }
     if (isPostingDevice(raw.key.device)) {
-        tellWatcher(raw, selfPostedMarker, now);
+        const auto motion = raw.motion == KeyMotion::press ? FakeMotion::press : FakeMotion::release;
+        const auto userData = m_shared.ledger.settlePosted({raw.key.keycode, motion}, raw.time);
+        tellWatcher(raw, userData.value_or(selfPostedMarker), now);
         return;
     }
     if (raw.motion == KeyMotion::press) {
@@ -127,6 +129,8 @@ void InputEngine::handle(const KeyboardChange& change)
     case KeyboardChange::Kind::went:
         m_grabs.removeDevice(change.device);
         m_fakingDevices.erase(change.device);
+        if (isPostingDevice(change.device))
+            forgetPosted();
         m_postingDevices.erase(change.device);
         apply(m_router.deviceGone(change.device, situation()));
         publishHeldSides();
@@ -180,12 +184,17 @@ void InputEngine::apply(const Effects& effects)
 
 void InputEngine::apply(const StrokePlayer::Fakes& fakes)
 {
-    for (const MarkedFake& each : fakes)
-        fake(each.key, each.userData);
+    for (const MarkedFake& each : fakes) {
+        const bool isPosted = each.key.motion == FakeMotion::release && m_posted.isDown(each.key.keycode);
+        if (!isPosted || !post(each.key, each.userData))
+            fake(each.key, each.userData);
+    }
 }
 
 void InputEngine::fake(FakeKey key, std::int64_t userData)
 {
+    awaitPosted();
+    m_areFakesUnsettled = true;
     FakeKey actual = key;
     if (key.motion == FakeMotion::press) {
         actual.keycode = m_keymap.fakingKeycode(key.keycode);
@@ -206,7 +215,7 @@ KeycodeSet InputEngine::downKeys()
         if (isDown)
             down.set(keycode);
     }
-    return down;
+    return m_posted.downAfterArrival(down);
 }
 
 void InputEngine::tapBlankKey()
@@ -283,8 +292,11 @@ std::vector<std::uint32_t> InputEngine::summonModifiers() const
 void InputEngine::refreshKeymap()
 {
     m_isKeymapStale = false;
-    m_keymap = m_connection->keyboardMap(
-        m_keyboards.physical.empty() ? m_keyboards.faking : m_keyboards.physical.front(), m_keyboards.faking);
+    const DeviceId keyboard = m_keyboards.physical.empty() ? m_keyboards.faking : m_keyboards.physical.front();
+    m_keymap = m_connection->keyboardMap(keyboard, m_keyboards.faking);
+    if (m_keyboards.posting != 0 || m_keyboards.areOfAnotherSession)
+        m_postingKeymap =
+            m_connection->keyboardMap(keyboard, m_keyboards.posting != 0 ? m_keyboards.posting : keyboard);
     m_shared.masks = m_keymap.masks();
     std::vector<std::uint32_t> modifiers = summonModifiers();
     if (modifiers == m_summonModifiers)
@@ -311,11 +323,21 @@ void InputEngine::play(const Stroke& stroke)
 {
     if (m_isKeymapStale)
         refreshKeymap();
-    apply(m_player.play(stroke,
-        {.map = m_keymap,
-            .layout = m_modifiers.layout,
-            .down = downKeys(),
-            .heldByUser = m_router.heldKeys().keycodes()}));
+    const KeycodeSet down = downKeys();
+    const KeycodeSet heldByUser = m_router.heldKeys().keycodes();
+    const auto momentOn = [&](const KeyboardMap& map) {
+        return KeyboardMoment{.map = map, .layout = m_modifiers.layout, .down = down, .heldByUser = heldByUser};
+    };
+    StrokePlayer posting = m_player;
+    if (isPostingPossible()) {
+        const StrokePlayer::Fakes fakes = posting.play(stroke, momentOn(m_postingKeymap));
+        if (canBePosted(fakes, down, heldByUser)) {
+            m_player = std::move(posting);
+            post(fakes);
+            return;
+        }
+    }
+    apply(m_player.play(stroke, momentOn(m_keymap)));
     m_connection->flush();
 }
 

@@ -3,11 +3,14 @@
 #include "platform/linux/x11/GrabBook.h"
 #include "platform/linux/x11/InputConnection.h"
 #include "platform/linux/x11/InputShared.h"
+#include "platform/linux/x11/KeyPosting.h"
+#include "platform/linux/x11/PostedKeys.h"
 #include "platform/linux/x11/PressRouter.h"
 #include "platform/linux/x11/StrokePlayer.h"
 
 #include <QString>
 
+#include <deque>
 #include <map>
 #include <memory>
 #include <optional>
@@ -26,6 +29,10 @@ public:
 
 /// The work of the input thread while a server is there: reads the server's events, decides, and acts. Lives and dies
 /// on that thread.
+///
+/// A posted keystroke has two roads. Where the tap daemon serves us, and the server has its device or stands in for a
+/// Wayland session, keys are pressed on that device. Such a device can't lift what the user holds; a stroke that needs
+/// it, and every stroke without the device, is faked at the server.
 class InputEngine
 {
 public:
@@ -45,6 +52,7 @@ public:
     void settle();
     /// Makes the grabs follow what is published and whether the tap is enabled.
     void updateGrabs();
+    void setKeyPosting(std::shared_ptr<KeyPosting> posting) { m_keyPosting = std::move(posting); }
     /// Asks again for what another program has.
     void retryGrabs() { carryOut(m_grabs.retries()); }
     [[nodiscard]] bool hasRefusedGrabs() const { return !m_grabs.retries().empty(); }
@@ -64,6 +72,17 @@ private:
     void apply(const Effects& effects);
     void apply(const StrokePlayer::Fakes& fakes);
     void fake(FakeKey key, std::int64_t userData);
+    /// The next event, whether or not it was read already while something else was waited for.
+    [[nodiscard]] std::optional<ServerEvent> takeEvent();
+    [[nodiscard]] std::optional<ServerEvent> readEvent();
+    [[nodiscard]] bool isPostingPossible() const;
+    /// @param down the keys that are down for the applications
+    [[nodiscard]] bool canBePosted(
+        const StrokePlayer::Fakes& fakes, KeycodeSet down, const KeycodeSet& heldByUser) const;
+    void post(const StrokePlayer::Fakes& fakes);
+    [[nodiscard]] bool post(FakeKey key, std::int64_t userData);
+    void awaitPosted();
+    void forgetPosted();
     void tapBlankKey();
     void carryOut(const GrabSteps& steps);
     void noteOutcome(PhysicalKey key, GrabOutcome outcome);
@@ -85,6 +104,11 @@ private:
     StrokePlayer m_player;
     Keyboards m_keyboards;
     KeyboardMap m_keymap;
+    KeyboardMap m_postingKeymap; ///< the same for what is posted through the device
+    std::shared_ptr<KeyPosting> m_keyPosting; ///< null without a daemon
+    PostedKeys m_posted;
+    bool m_areFakesUnsettled = false; ///< the server may not have done what was faked last
+    std::deque<ServerEvent> m_readEarly; ///< while something else was waited for
     ModifierState m_modifiers;
     std::vector<std::uint32_t> m_summonModifiers; ///< with which the summon grabs stand
     std::map<DeviceId, bool> m_fakingDevices;

@@ -79,6 +79,15 @@ void InputThread::setRecording(bool recording)
     });
 }
 
+void InputThread::setKeyPosting(std::shared_ptr<KeyPosting> posting)
+{
+    enqueue([this, posting = std::move(posting)](InputEngine* engine) {
+        m_keyPosting = posting;
+        if (engine != nullptr)
+            engine->setKeyPosting(posting);
+    });
+}
+
 void InputThread::repost(PressId press, Keycode keycode)
 {
     enqueue([=](InputEngine* engine) {
@@ -164,6 +173,7 @@ void InputThread::connect()
     }
     m_engine = std::make_unique<InputEngine>(
         std::move(std::get<std::unique_ptr<InputConnection>>(opened)), m_shared, static_cast<InputOutbox&>(*this));
+    m_engine->setKeyPosting(m_keyPosting);
     m_shared.isConnected = true;
     if (!std::exchange(m_lastFailure, {}).isEmpty())
         log(QStringLiteral("[Tarvin] The input path through X is back."));

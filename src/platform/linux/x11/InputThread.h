@@ -2,6 +2,7 @@
 
 #include "platform/linux/x11/InputEngine.h"
 #include "platform/linux/x11/InputShared.h"
+#include "platform/linux/x11/KeyPosting.h"
 #include "platform/linux/x11/PressRouter.h"
 #include "platform/linux/x11/StrokePlayer.h"
 #include "platform/ports/Scheduler.h"
@@ -53,6 +54,8 @@ public:
     void setHasGlobalMonitor(bool has) { m_shared.hasGlobalMonitor = has; }
     void setStudioActive(bool active) { m_shared.isStudioActive = active; }
 
+    /// Where keystrokes are posted from now on, as far as it goes; null for at the server only.
+    void setKeyPosting(std::shared_ptr<KeyPosting> posting);
     /// Gives a press that was taken from the applications to them after all.
     void repost(PressId press, Keycode keycode);
     void play(const Stroke& stroke);
@@ -99,6 +102,7 @@ private:
     std::unique_ptr<InputEngine> m_engine;
     std::chrono::steady_clock::time_point m_nextAttempt;
     QString m_lastFailure;
+    std::shared_ptr<KeyPosting> m_keyPosting;
 
     std::thread m_thread;
 };

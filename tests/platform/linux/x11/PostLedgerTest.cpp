@@ -70,6 +70,35 @@ TEST(PostLedger, aWindowMayBeFasterThanTheReport)
     EXPECT_EQ(ledger.settle(press, 1000, 100), marker);
 }
 
+TEST(PostLedger, whatIsPostedThroughTheDeviceIsOursInItsOrder)
+{
+    PostLedger ledger;
+    ledger.expectPosted(press, 1);
+    ledger.expectPosted(release, 2);
+    ledger.expectPosted(press, 3);
+    ledger.passBy(100);
+    EXPECT_EQ(ledger.settle(press, 1000, 0), std::nullopt) << "it belongs to no request";
+    EXPECT_EQ(ledger.settlePosted(press, 1000), 1);
+    EXPECT_EQ(ledger.settlePosted(press, 1002), 3) << "the release was lost";
+    EXPECT_EQ(ledger.settlePosted(release, 1003), std::nullopt);
+    EXPECT_EQ(ledger.takeOwn(press, 1000), 1);
+    EXPECT_EQ(ledger.takeOwn(press, 1002), 3);
+    EXPECT_EQ(ledger.takeOwn(release, 1003), std::nullopt);
+}
+
+TEST(PostLedger, ofADeviceThatHasGoneNothingIsWaitedForAnyMore)
+{
+    PostLedger ledger;
+    ledger.expectPosted(press, marker);
+    EXPECT_EQ(ledger.settlePosted(press, 1000), marker);
+    ledger.expectPosted(release, marker);
+    ledger.expect(release, marker, 100);
+    ledger.forgetPosted();
+    EXPECT_EQ(ledger.settlePosted(release, 1001), std::nullopt);
+    EXPECT_EQ(ledger.takeOwn(press, 1000), marker) << "this one has come";
+    EXPECT_EQ(ledger.settle(release, 1001, 100), marker) << "and this one was faked at the server";
+}
+
 TEST(PostLedger, theOldestIsForgottenFirst)
 {
     PostLedger ledger;
