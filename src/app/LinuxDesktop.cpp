@@ -4,11 +4,21 @@
 #include "platform/posix/XdgDirectories.h"
 
 #include <QDBusConnection>
+#include <QFileInfo>
 #include <QGuiApplication>
 
 #include <utility>
 
 namespace tarvin {
+
+namespace {
+
+QFileInfo socketFile()
+{
+    return QFileInfo(QString::fromStdString(evdev::TapClient::defaultSocketPath()));
+}
+
+} // namespace
 
 LinuxDesktop::LinuxDesktop(
     const QStringList& arguments, std::function<RuntimeLog&()> runtimeLog, std::function<void(const QString&)> tellUser)
@@ -24,6 +34,12 @@ LinuxDesktop::LinuxDesktop(
     , inputThread(scheduler, {}, log)
     , sessionTaps(inputThread)
     , tapClient(scheduler, evdev::TapClient::defaultSocketPath(), log)
+    , tapSocketWatch([](const QString& name) { return name == socketFile().fileName(); },
+          [this] {
+              watchTapSocket();
+              tapClient.lookAgain();
+          },
+          desktop::DirectoryWatch::NewFile::atOnce)
     , inputTaps(sessionTaps, tapClient)
     , keyRecording(inputThread, {}, [this](bool isRecording) { inputTaps.setRecording(isRecording); })
     , connection(scheduler, console)
@@ -53,7 +69,16 @@ LinuxDesktop::LinuxDesktop(
                   .workspace = workspace,
                   .pixelsPerPoint = qGuiApp->devicePixelRatio()},
           std::move(tellUser))
-{ }
+{
+    inputThread.setKeyPosting(tapClient.keyPosting());
+    watchTapSocket();
+}
+
+/// The daemon may be installed or started while we run; then its folder may be new as well.
+void LinuxDesktop::watchTapSocket()
+{
+    tapSocketWatch.setDirectories({socketFile().path()});
+}
 
 Platform LinuxDesktop::ports()
 {

@@ -3,6 +3,7 @@
 #include "app/LinuxActions.h"
 #include "platform/linux/desktop/AutostartLoginItem.h"
 #include "platform/linux/desktop/DesktopApplicationFolders.h"
+#include "platform/linux/desktop/DirectoryWatch.h"
 #include "platform/linux/desktop/EwmhWorkspace.h"
 #include "platform/linux/desktop/InstalledApplications.h"
 #include "platform/linux/desktop/LinuxFunctionKeySetting.h"
@@ -65,6 +66,7 @@ public:
     x11::InputThread inputThread;
     x11::X11InputTaps sessionTaps;
     evdev::TapClient tapClient;
+    desktop::DirectoryWatch tapSocketWatch;
     evdev::LinuxInputTaps inputTaps;
     x11::X11KeyRecording keyRecording;
     desktop::XConnection connection;
@@ -81,6 +83,9 @@ public:
     pasteboard::SelectionPasteboard pasteboard;
     posix::PosixUserEnvironment userEnvironment;
     LinuxActions actions;
+
+private:
+    void watchTapSocket();
 };
 
 } // namespace tarvin

@@ -18,9 +18,11 @@ constexpr std::uint32_t watchedEvents =
 
 } // namespace
 
-DirectoryWatch::DirectoryWatch(std::function<bool(const QString&)> isWanted, std::function<void()> onChange)
+DirectoryWatch::DirectoryWatch(
+    std::function<bool(const QString&)> isWanted, std::function<void()> onChange, NewFile newFile)
     : m_isWanted(std::move(isWanted))
     , m_onChange(std::move(onChange))
+    , m_newFile(newFile)
     , m_descriptor(inotify_init1(IN_NONBLOCK | IN_CLOEXEC))
 {
     if (m_descriptor < 0)
@@ -96,10 +98,11 @@ bool DirectoryWatch::matters(const inotify_event& event) const
     const auto awaited = m_awaitedNames.find(event.wd);
     if (awaited != m_awaitedNames.end())
         return awaited->second.contains(name);
-    // A folder that comes may hold files already; of a new file the content is still to follow.
+    // A folder that comes may hold files already.
     if ((event.mask & IN_ISDIR) != 0)
         return true;
-    return (event.mask & IN_CREATE) == 0 && m_isWanted(name);
+    const bool isAppearing = (event.mask & IN_CREATE) != 0;
+    return (!isAppearing || m_newFile == NewFile::atOnce) && m_isWanted(name);
 }
 
 } // namespace tarvin::desktop

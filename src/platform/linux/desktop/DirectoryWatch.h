@@ -20,9 +20,16 @@ namespace tarvin::desktop {
 class DirectoryWatch
 {
 public:
+    /// When a file that appears counts.
+    enum class NewFile {
+        whenWritten, ///< of an ordinary file the content is still to follow
+        atOnce, ///< a socket has no content
+    };
+
     /// @param isWanted whether the change of a file of this name matters
     /// @param onChange called on a later turn, once for several changes that came together
-    DirectoryWatch(std::function<bool(const QString& fileName)> isWanted, std::function<void()> onChange);
+    DirectoryWatch(std::function<bool(const QString& fileName)> isWanted, std::function<void()> onChange,
+        NewFile newFile = NewFile::whenWritten);
     ~DirectoryWatch();
     DirectoryWatch(const DirectoryWatch&) = delete;
     DirectoryWatch& operator=(const DirectoryWatch&) = delete;
@@ -37,6 +44,7 @@ private:
 
     std::function<bool(const QString&)> m_isWanted;
     std::function<void()> m_onChange;
+    NewFile m_newFile;
     int m_descriptor = -1;
     std::unique_ptr<QSocketNotifier> m_notifier;
     /// For the watch of a directory that stands in for a missing one below it: the name that is waited for.

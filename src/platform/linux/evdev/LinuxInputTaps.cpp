@@ -40,46 +40,59 @@ constexpr keycodes::KeyMotion motionOf(tapd::KeyMotion motion)
 
 } // namespace
 
-class LinuxInputTaps::HidTap final : public EventTap
+/// A tap that the daemon feeds, and the X session too if it is the session's.
+class LinuxInputTaps::FedTap final : public EventTap
 {
 public:
-    HidTap(LinuxInputTaps& owner, TapHandler handler)
+    /// @param place where the owner knows it while it lives
+    /// @param session null for the HID tap
+    FedTap(
+        LinuxInputTaps& owner, FedTap*& place, std::shared_ptr<TapHandler> handler, std::unique_ptr<EventTap> session)
         : m_owner(owner)
-        , m_handler(std::make_shared<TapHandler>(std::move(handler)))
+        , m_place(place)
+        , m_handler(std::move(handler))
+        , m_session(std::move(session))
     {
-        m_owner.m_tap = this;
+        m_place = this;
     }
 
-    ~HidTap() override
+    ~FedTap() override
     {
-        m_owner.m_tap = nullptr;
+        m_place = nullptr;
         m_owner.publish();
     }
 
-    HidTap(const HidTap&) = delete;
-    HidTap& operator=(const HidTap&) = delete;
-    HidTap(HidTap&&) = delete;
-    HidTap& operator=(HidTap&&) = delete;
+    FedTap(const FedTap&) = delete;
+    FedTap& operator=(const FedTap&) = delete;
+    FedTap(FedTap&&) = delete;
+    FedTap& operator=(FedTap&&) = delete;
 
-    void attachToMainLoop() override { set(m_isAttached, true); }
-    void detachFromMainLoop() override { set(m_isAttached, false); }
-    void enable() override { set(m_isEnabled, true); }
-    void disable() override { set(m_isEnabled, false); }
-    [[nodiscard]] bool isEnabled() const override { return m_isEnabled && m_owner.m_client.isPresent(); }
+    void attachToMainLoop() override { set(m_isAttached, true, &EventTap::attachToMainLoop); }
+    void detachFromMainLoop() override { set(m_isAttached, false, &EventTap::detachFromMainLoop); }
+    void enable() override { set(m_isEnabled, true, &EventTap::enable); }
+    void disable() override { set(m_isEnabled, false, &EventTap::disable); }
+    [[nodiscard]] bool isEnabled() const override
+    {
+        return m_session ? m_session->isEnabled() : m_isEnabled && m_owner.m_client.isPresent();
+    }
 
     [[nodiscard]] bool isListening() const { return m_isAttached && m_isEnabled; }
     /// Alive during its own call, even if the call destroys the tap.
     [[nodiscard]] std::shared_ptr<TapHandler> handler() const { return m_handler; }
 
 private:
-    void set(bool& member, bool value)
+    void set(bool& member, bool value, void (EventTap::*inSession)())
     {
+        if (m_session)
+            (*m_session.*inSession)();
         if (std::exchange(member, value) != value)
             m_owner.publish();
     }
 
     LinuxInputTaps& m_owner;
+    FedTap*& m_place;
     std::shared_ptr<TapHandler> m_handler;
+    std::unique_ptr<EventTap> m_session;
     bool m_isAttached = false;
     bool m_isEnabled = false;
 };
@@ -138,15 +151,28 @@ LinuxInputTaps::~LinuxInputTaps()
 
 std::unique_ptr<EventTap> LinuxInputTaps::createTap(TapLocation location, TapHandler handler)
 {
+    const auto shared = std::make_shared<TapHandler>(std::move(handler));
     switch (location) {
     case TapLocation::session:
-        return m_session.createTap(location, std::move(handler));
+        if (auto session =
+                m_session.createTap(location, [shared](const InputEvent& event) { return (*shared)(event); }))
+            return std::make_unique<FedTap>(*this, m_sessionTap, shared, std::move(session));
+        return nullptr;
     case TapLocation::hid:
         break;
     }
-    if (m_tap != nullptr || !m_client.isPresent())
+    if (m_hidTap != nullptr || !m_client.isPresent())
         return nullptr;
-    return std::make_unique<HidTap>(*this, std::move(handler));
+    return std::make_unique<FedTap>(*this, m_hidTap, shared, nullptr);
+}
+
+LinuxInputTaps::FedTap* LinuxInputTaps::listeningTap() const
+{
+    for (FedTap* const tap : {m_hidTap, m_sessionTap}) {
+        if (tap != nullptr && tap->isListening())
+            return tap;
+    }
+    return nullptr;
 }
 
 std::unique_ptr<EventMonitor> LinuxInputTaps::addGlobalMonitor(MonitorHandler handler)
@@ -180,7 +206,7 @@ void LinuxInputTaps::setRecording(bool recording)
 
 void LinuxInputTaps::publish()
 {
-    const bool isTaking = m_tap != nullptr && m_tap->isListening() && !m_isRecording;
+    const bool isTaking = listeningTap() != nullptr && !m_isRecording;
     m_client.publish(isTaking ? m_customKeys : FKeySet(), isTaking ? m_summon : SummonShortcut::released);
 }
 
@@ -193,8 +219,8 @@ void LinuxInputTaps::receive(const tapd::KeyTaken& taken)
     const auto flags = taken.motion == tapd::KeyMotion::release ? EventFlags::none : ownFlagOf(*key);
     auto verdict = EventVerdict::pass;
     if (const auto event = keycodes::makeKeyEvent(*row, motionOf(taken.motion), flags)) {
-        if (m_tap != nullptr && m_tap->isListening()) {
-            const auto handler = m_tap->handler();
+        if (const FedTap* const tap = listeningTap()) {
+            const auto handler = tap->handler();
             verdict = (*handler)(*event);
         }
         repostIfPassed(taken, verdict);
@@ -225,11 +251,12 @@ void LinuxInputTaps::repostIfPassed(const tapd::KeyTaken& taken, EventVerdict ve
 
 void LinuxInputTaps::receiveSummon(tapd::KeyMotion motion)
 {
-    if (m_tap == nullptr || !m_tap->isListening())
+    const FedTap* const tap = listeningTap();
+    if (tap == nullptr)
         return;
     InputEvent event = summonEvent;
     event.autorepeat = motion == tapd::KeyMotion::repeat ? 1 : 0;
-    const auto handler = m_tap->handler();
+    const auto handler = tap->handler();
     static_cast<void>((*handler)(event));
 }
 

@@ -15,6 +15,9 @@ namespace tarvin::evdev {
 ///
 /// What the daemon takes never reaches the session, so each press comes by one of the two taps. The daemon tells only
 /// of keys that it takes, and of no modifiers: the flags of an event are the key's own.
+///
+/// Taps are created when the program starts to take keys. Where the daemon comes later there is no HID tap, and what
+/// the daemon takes goes to the session tap's handler.
 class LinuxInputTaps final : public InputTaps
 {
 public:
@@ -38,7 +41,7 @@ public:
     void setRecording(bool recording);
 
 private:
-    class HidTap;
+    class FedTap;
     class DaemonHidManager;
 
     static constexpr std::size_t evdevCodes = 0x300;
@@ -47,10 +50,13 @@ private:
     void receiveSummon(tapd::KeyMotion motion);
     void repostIfPassed(const tapd::KeyTaken& taken, EventVerdict verdict);
     void publish();
+    /// Who hears of what the daemon takes; null if nobody does.
+    [[nodiscard]] FedTap* listeningTap() const;
 
     InputTaps& m_session;
     TapClient& m_client;
-    HidTap* m_tap = nullptr; ///< not owned
+    FedTap* m_hidTap = nullptr; ///< not owned
+    FedTap* m_sessionTap = nullptr; ///< not owned
     DaemonHidManager* m_hidManager = nullptr; ///< not owned
     FKeySet m_customKeys;
     SummonShortcut m_summon = SummonShortcut::released;

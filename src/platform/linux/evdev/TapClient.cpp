@@ -2,6 +2,7 @@
 
 #include "platform/ports/Scheduler.h"
 
+#include <QFileInfo>
 #include <QtGlobal>
 
 #include <algorithm>
@@ -30,7 +31,10 @@ TapClient::TapClient(Scheduler& scheduler, std::string socketPath, LogHandler lo
         m_log(QStringLiteral("[Tarvin] Tap daemon absent: keys are taken in the X session only."));
 }
 
-TapClient::~TapClient() = default;
+TapClient::~TapClient()
+{
+    m_postingRoad->close();
+}
 
 std::string TapClient::defaultSocketPath()
 {
@@ -42,6 +46,16 @@ void TapClient::setWayOutHandler(std::function<void()> handler)
     m_wayOutHandler = std::move(handler);
     if (std::exchange(m_isWayOutUntold, false))
         noteWayOut();
+}
+
+void TapClient::lookAgain()
+{
+    if (isPresent() || !QFileInfo::exists(QString::fromStdString(m_socketPath)))
+        return;
+    // The socket may be there a moment before anybody listens.
+    m_state = State::lost;
+    m_retryDelay = firstRetry;
+    connect();
 }
 
 void TapClient::publish(FKeySet keys, SummonShortcut summon)
@@ -78,6 +92,7 @@ void TapClient::lose()
         m_log(QStringLiteral("[Tarvin] Tap daemon refused the connection: it serves the user at the seat, by a "
                              "protocol of its own version."));
     m_state = State::lost;
+    m_postingRoad->close();
     if (m_notifier) {
         // It may be what is calling us.
         m_notifier->setEnabled(false);
@@ -113,6 +128,7 @@ void TapClient::handle(const tapd::Welcome& welcome)
 {
     m_state = State::connected;
     m_retryDelay = firstRetry;
+    m_postingRoad->open(m_socket.share());
     m_wayOutsSeen = welcome.wayOuts;
     m_log(QStringLiteral("[Tarvin] Tap daemon connected: keys are taken at the keyboard."));
     if (welcome.isOut)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/linux/evdev/PostingRoad.h"
 #include "platform/linux/x11/PublishedKeys.h"
 #include "platform/ports/InputTaps.h"
 #include "tapd/protocol/FrameSocket.h"
@@ -24,7 +25,7 @@ namespace tarvin::evdev {
 /// The application's end of the connection to the tap daemon. Main thread only, which is how the daemon finds out that
 /// the application hangs.
 ///
-///     absent      nobody listens at the socket: stays so until the program starts again
+///     absent      nobody listens at the socket, as far as we have looked
 ///     connecting  somebody listens, but has not spoken yet
 ///     connected   the daemon takes what is published
 ///     lost        it was there and has gone; asked for again and again, ever more seldom
@@ -61,10 +62,15 @@ public:
     /// before there was a handler is told at once.
     void setWayOutHandler(std::function<void()> handler);
 
+    /// Somebody may listen at the socket now. Without effect while the daemon is there.
+    void lookAgain();
+
     /// What the daemon is to take from now on, also after it was lost and found again.
     void publish(FKeySet keys, SummonShortcut summon);
     /// Posts a key event through the daemon's device for that.
     void post(std::uint16_t evdevCode, tapd::KeyMotion motion);
+    /// The same for any thread; open while the daemon serves us. Outlives this object, closed.
+    [[nodiscard]] std::shared_ptr<x11::KeyPosting> keyPosting() const { return m_postingRoad; }
 
 private:
     void connect();
@@ -85,6 +91,7 @@ private:
     Handlers m_handlers;
     std::function<void()> m_wayOutHandler;
     tapd::FrameSocket m_socket;
+    std::shared_ptr<PostingRoad> m_postingRoad = std::make_shared<PostingRoad>();
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::unique_ptr<Timer> m_retry;
     std::chrono::milliseconds m_retryDelay;

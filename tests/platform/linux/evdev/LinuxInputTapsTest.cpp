@@ -23,17 +23,38 @@ using tapd::test::RecordedOutputs;
 
 namespace {
 
-/// Paths of the session that never see anything.
+class QuietTap final : public EventTap
+{
+public:
+    explicit QuietTap(bool& isEnabled)
+        : m_isEnabled(isEnabled)
+    { }
+    void attachToMainLoop() override { }
+    void detachFromMainLoop() override { }
+    void enable() override { m_isEnabled = true; }
+    void disable() override { m_isEnabled = false; }
+    [[nodiscard]] bool isEnabled() const override { return m_isEnabled; }
+
+private:
+    bool& m_isEnabled;
+};
+
+/// Paths of the session on which nobody types.
 class QuietSession final : public InputTaps
 {
 public:
-    std::unique_ptr<EventTap> createTap(TapLocation, TapHandler) override { return nullptr; }
+    std::unique_ptr<EventTap> createTap(TapLocation, TapHandler) override
+    {
+        return hasTap ? std::make_unique<QuietTap>(isTapEnabled) : nullptr;
+    }
     std::unique_ptr<EventMonitor> addGlobalMonitor(MonitorHandler) override { return nullptr; }
     std::unique_ptr<EventMonitor> addLocalMonitor(LocalMonitorHandler) override { return nullptr; }
     std::unique_ptr<HidManager> openHidManager(HidHandler) override { return nullptr; }
     void publishConsumedKeys(FKeySet customKeys, SummonShortcut) override { published = customKeys; }
 
     FKeySet published;
+    bool hasTap = false;
+    bool isTapEnabled = false;
 };
 
 /// The daemon's own service behind a socket, without devices.
@@ -152,6 +173,80 @@ TEST_F(LinuxInputTapsTest, withoutADaemonThereIsNoHidTapAndTheLogSaysSo)
     EXPECT_FALSE(hidManager->isOpen());
     taps->publishConsumedKeys({FKey::f5}, SummonShortcut::released);
     EXPECT_EQ(session.published, FKeySet{FKey::f5}) << "the session goes on as before";
+}
+
+TEST_F(LinuxInputTapsTest, aDaemonThatComesLaterFeedsTheTapOfTheSession)
+{
+    session.hasTap = true;
+    startClient();
+    createTap();
+    EXPECT_EQ(tap, nullptr);
+    tap = taps->createTap(TapLocation::session, [this](const InputEvent& event) {
+        seen.push_back(event);
+        return EventVerdict::consume;
+    });
+    ASSERT_NE(tap, nullptr);
+    tap->attachToMainLoop();
+    tap->enable();
+    EXPECT_TRUE(session.isTapEnabled);
+    hidManager = taps->openHidManager([this](const HidValue& value) { values.push_back(value); });
+    taps->publishConsumedKeys({FKey::f5}, SummonShortcut::released);
+    client->lookAgain();
+    EXPECT_EQ(client->state(), TapClient::State::absent) << "nothing is there yet";
+
+    startDaemon();
+    client->lookAgain();
+    daemon->settle();
+    EXPECT_EQ(client->state(), TapClient::State::connected);
+    EXPECT_TRUE(lines.last().contains(QStringLiteral("Tap daemon connected")));
+    EXPECT_EQ(daemon->play("+f5 -f5"), "");
+    EXPECT_EQ(seen.size(), 2U);
+    EXPECT_EQ(values.size(), 2U);
+    tap->disable();
+    daemon->settle();
+    EXPECT_FALSE(session.isTapEnabled);
+    EXPECT_EQ(daemon->play("+f5 -f5"), "+f5 -f5");
+}
+
+TEST_F(LinuxInputTapsTest, aSocketThatNobodyAnswersYetIsTriedAgain)
+{
+    startClient();
+    const tapd::FileDescriptor early(::socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0));
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::memcpy(address.sun_path, path.data(), path.size());
+    ASSERT_EQ(::bind(early.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    client->lookAgain();
+    EXPECT_EQ(client->state(), TapClient::State::lost);
+    ::unlink(path.c_str());
+    startDaemon();
+    scheduler.advance(500ms);
+    daemon->settle();
+    EXPECT_EQ(client->state(), TapClient::State::connected);
+}
+
+TEST_F(LinuxInputTapsTest, keysArePostedThroughTheDaemonWhileItServes)
+{
+    startClient();
+    const auto posting = client->keyPosting();
+    constexpr x11::Keycode keyA = 30 + 8;
+    EXPECT_FALSE(posting->isOpen());
+    EXPECT_FALSE(posting->post({keyA, x11::FakeMotion::press}));
+    startDaemon();
+    client->lookAgain();
+    daemon->settle();
+    EXPECT_TRUE(posting->isOpen());
+    EXPECT_TRUE(posting->post({keyA, x11::FakeMotion::press}));
+    EXPECT_TRUE(posting->post({keyA, x11::FakeMotion::release}));
+    daemon->settle();
+    EXPECT_EQ(daemon->outputs.takePosted(), "+a -a");
+    EXPECT_TRUE(posting->post({keyA, x11::FakeMotion::press}));
+    daemon->settle();
+    taps.reset();
+    client.reset();
+    EXPECT_FALSE(posting->isOpen());
+    daemon->settle();
+    EXPECT_EQ(daemon->outputs.takePosted(), "+a -a") << "nothing stays down";
 }
 
 TEST_F(LinuxInputTapsTest, aTakenKeyReachesTheHidTapInItsForm)
