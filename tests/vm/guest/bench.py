@@ -22,7 +22,7 @@ EVENT = struct.Struct("qqHHi")
 
 # Name, key code of the kernel, HID usage, name in the machine's monitor.
 KEYS = {
-    "a": (30, 0x04), "b": (48, 0x05), "c": (46, 0x06), "d": (32, 0x07), "e": (18, 0x08), "k": (37, 0x0E),
+    "a": (30, 0x04), "b": (48, 0x05), "c": (46, 0x06), "d": (32, 0x07), "e": (18, 0x08), "g": (34, 0x0A), "k": (37, 0x0E),
     "x": (45, 0x1B), "y": (21, 0x1C), "f5": (63, 0x3E), "f6": (64, 0x3F), "f7": (65, 0x40), "esc": (1, 0x29),
     "ret": (28, 0x28), "backspace": (14, 0x2A), "caps_lock": (58, 0x39), "shift": (42, 0xE1), "meta_l": (125, 0xE3),
     "alt": (56, 0xE2),

@@ -1,5 +1,6 @@
 """The whole road in a session: an X server on the kernel's devices, a window, the program and the daemon. A customised key
-performs its action, a plain key is typed, and each exactly once."""
+performs its action, a plain key is typed, and each exactly once; what the action types comes from the daemon's own device.
+Without the daemon the X server does both, until the daemon is back."""
 
 import json
 import os
@@ -11,7 +12,7 @@ import subprocess
 import time
 import unittest
 
-from bench import SOCKET, USB, Daemon, Monitor, Node, find_nodes, start_udev, until
+from bench import EV_KEY, NAMES, POSTING, SOCKET, USB, Daemon, Monitor, Node, find_nodes, start_udev, until
 
 HOME = pathlib.Path("/root/road")
 XORG = """
@@ -97,6 +98,27 @@ class Road(unittest.TestCase):
             time.sleep(0.5)
         return True
 
+    def device_count(self):
+        """How often the X server has met the device for posted keys."""
+        return (HOME / "xorg.log").read_text(errors="replace").count(f"Adding input device {POSTING}")
+
+    def play_and_expect(self, words, seen, posted=""):
+        """Presses keys; tells what the window must see, and what of it must come from the device for posted keys."""
+        device = Node(find_nodes(POSTING)[0]) if posted else None
+        before = len(self.keys_seen())
+        self.monitor.play(words)
+        try:
+            until("all of it", lambda: len(self.keys_seen()) >= before + len(seen.split()), PATIENCE)
+        except AssertionError as error:
+            self.fail(f"{error}; the window saw {self.keys_seen()}, the keyboard has "
+                      f"'{self.focused_window()}'; the log: {self.log()}")
+        time.sleep(1)
+        self.assertEqual(self.keys_seen()[before:], seen.split())
+        if device:
+            events = [e for e in device.events() if e[1] == EV_KEY]
+            self.assertEqual(["-+~"[value] + NAMES[code] for _, _, code, value in events], posted.split())
+            device.close()
+
     def test_a_customised_key_performs_its_action_and_a_plain_key_is_typed(self):
         data = HOME / "data/Tarvin"
         data.mkdir(parents=True, mode=0o700)
@@ -116,15 +138,26 @@ class Road(unittest.TestCase):
         until("the window is there", lambda: self.run_quietly("xdotool", "search", "--name", "Event Tester"), PATIENCE)
         until("the window has the keyboard", self.has_focus_for_good, PATIENCE)
         print(f"{time.monotonic():.0f} s: the window has the keyboard", flush=True)
-        self.monitor.play("+x -x 0.3 +f5 -f5 0.5 +y -y 0.5 +f5 0.2 +x -x -f5")
-        try:
-            until("all of it", lambda: len(self.keys_seen()) >= 10, PATIENCE)
-        except AssertionError as error:
-            self.fail(f"{error}; the window saw {self.keys_seen()}, the keyboard has "
-                      f"'{self.focused_window()}'; the log: {self.log()}")
-        time.sleep(1)
-        self.assertEqual(self.keys_seen(), "+x -x +g -g +y -y +g -g +x -x".split())
+        self.play_and_expect("+x -x 0.3 +f5 -f5 0.5 +y -y 0.5 +f5 0.2 +x -x -f5", "+x -x +g -g +y -y +g -g +x -x",
+                             posted="+g -g +g -g")
         self.assertEqual(re.findall(r"\[(\S+)\] Intercepted Physical F5", self.log()), ["EventTap", "EventTap"])
+
+        # Without the daemon the keys are taken and posted at the X server.
+        os.kill(self.daemon.worker, signal.SIGKILL)
+        self.daemon.end()
+        until("the daemon is missed", lambda: "Tap daemon gone" in self.log(), PATIENCE)
+        self.play_and_expect("0.5 +f5 -f5 0.5 +y -y", "+g -g +y -y")
+        print(f"{time.monotonic():.0f} s: without the daemon it goes on", flush=True)
+
+        # One that comes while the program runs is found.
+        devices = self.device_count()
+        type(self).daemon = Daemon()
+        until("the daemon is found", lambda: self.log().count("Tap daemon connected") == 2, PATIENCE)
+        until("the keyboard is grabbed again", physical.is_grabbed, PATIENCE)
+        until("the X server has the device", lambda: self.device_count() > devices, PATIENCE)
+        time.sleep(1)
+        self.play_and_expect("+f5 -f5 0.5 +y -y", "+g -g +y -y", posted="+g -g")
+        print(f"{time.monotonic():.0f} s: with a new one as well", flush=True)
 
         # The way out turns the master switch off, and F5 is F5.
         self.monitor.play("+backspace +esc +ret 0.8 -ret -esc -backspace")
