@@ -21,7 +21,8 @@ public:
 
     void noteKeys(const KeyBits& held, EventTime time)
     {
-        if (held != combination())
+        // At nearly every event none of the three is down.
+        if (!held[KEY_BACKSPACE] || !held[KEY_ESC] || !held[KEY_ENTER] || held.count() != keysOfCombination)
             m_heldSince.reset();
         else if (!m_heldSince)
             m_heldSince = time;
@@ -35,11 +36,7 @@ public:
     [[nodiscard]] bool isDue(EventTime now) const { return m_heldSince && now >= *m_heldSince + holdTime; }
 
 private:
-    [[nodiscard]] static const KeyBits& combination()
-    {
-        static const KeyBits keys = KeyBits().set(KEY_BACKSPACE).set(KEY_ESC).set(KEY_ENTER);
-        return keys;
-    }
+    static constexpr std::size_t keysOfCombination = 3;
 
     std::optional<EventTime> m_heldSince;
 };

@@ -40,7 +40,7 @@ int TapDaemon::run()
         m_poller.watch(m_seat.descriptor(), Watched::seat);
     for (;;) {
         m_guard.page().lastProgress.store(0, std::memory_order_relaxed);
-        const auto ready = m_poller.wait(timeout());
+        const auto ready = m_poller.wait(deadline());
         noteProgress();
         if (m_guard.page().isTakenOver)
             beginAnewAfterTakeOver();
@@ -322,7 +322,7 @@ bool TapDaemon::makeOutputs()
     return true;
 }
 
-std::optional<EventTime> TapDaemon::timeout() const
+std::optional<EventTime> TapDaemon::deadline() const
 {
     std::optional<EventTime> next = m_service.deadline(m_now);
     const auto consider = [&next](EventTime time) { next = next ? std::min(*next, time) : time; };
@@ -330,7 +330,7 @@ std::optional<EventTime> TapDaemon::timeout() const
         consider(*m_retryAt);
     if (m_service.wantsKeyboards() && m_outputsReadyAt != EventTime(0))
         consider(m_outputsReadyAt);
-    return next ? std::optional(*next - m_now) : std::nullopt;
+    return next;
 }
 
 } // namespace tarvin::tapd

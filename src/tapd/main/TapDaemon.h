@@ -64,7 +64,8 @@ private:
     void beginAnewAfterTakeOver();
     void beginAnewAfterFailure();
     [[nodiscard]] bool makeOutputs();
-    [[nodiscard]] std::optional<EventTime> timeout() const;
+    /// When there will be something to do without anything happening.
+    [[nodiscard]] std::optional<EventTime> deadline() const;
 
     GuardLink m_guard;
     Listener m_listener;

@@ -12,7 +12,7 @@ import unittest
 
 from bench import CLONE, EV_KEY, Application, Daemon, Node, UserKeyboard, find_nodes, start_udev, until
 
-EVENTS_PER_ROUND, ROUNDS = 200, 4
+EVENTS_PER_ROUND, ROUNDS = 250, 6
 
 
 def percentile(values, share):
@@ -80,12 +80,18 @@ class Figures(unittest.TestCase):
         for name, values in delays.items():
             shown = ", ".join(f"p{int(share * 100)} {percentile(values, share) - entry:.0f} us" for share in (0.5, 0.9, 0.99))
             print(f"delay, {name}: {shown}, {len(values)} events", file=sys.stderr)
+        # Releases take less than presses, and the median of both lies at the edge between them; the mean is steadier.
+        means = {name: statistics.mean(sorted(values)[len(values) // 20:-len(values) // 20]) - entry
+                 for name, values in delays.items()}
+        print(f"delay, mean of the middle nine tenths: daemon {means['daemon']:.1f} us, bare {means['bare']:.1f} us, "
+              f"{means['daemon'] / means['bare']:.2f} times", file=sys.stderr)
         ratio = (percentile(delays["daemon"], 0.5) - entry) / (percentile(delays["bare"], 0.5) - entry)
         print(f"delay, median: {ratio:.2f} times the bare loop's; entry {entry:.0f} us", file=sys.stderr)
-        self.assertLess(ratio, 2.0, "the goal is 1.1; a busy host blurs it")
+        self.assertLess(ratio, 1.25, "the goal is 1.1 for the release build")
 
     def test_system_calls(self):
         self.with_application()
+        time.sleep(1)  # it may still be opening other devices
         trace = pathlib.Path("/tmp/trace")
         tracer = subprocess.Popen(["strace", "-q", "-o", str(trace), "-p", str(self.daemon.worker)])
         time.sleep(1)
@@ -99,10 +105,10 @@ class Figures(unittest.TestCase):
         calls = [match[1] for match in map(re.compile(r"^(\w+)\(").match, trace.read_text().splitlines()) if match]
         keys = {name: calls.count(name) for name in sorted(set(calls))}
         print(f"system calls, {count} events: {keys}", file=sys.stderr)
-        # Asking the application whether it lives takes three calls and a wait for the answer, and so does the time of it.
-        pings = calls.count("sendto")
-        for_keys = len(calls) - calls.count("sendto") - calls.count("recvfrom") - 2 * pings
-        self.assertEqual(set(calls), {"read", "write", "epoll_wait", "sendto", "recvfrom"})
+        # Asking the application whether it lives takes four calls, a wait for the time of it and one for the answer.
+        for_pings = ("sendto", "recvfrom", "timerfd_settime")
+        for_keys = len(calls) - sum(map(calls.count, for_pings)) - 2 * calls.count("sendto")
+        self.assertEqual(set(calls), {"read", "write", "epoll_wait", *for_pings})
         self.assertEqual(calls.count("read"), calls.count("write"))
         self.assertGreater(calls.count("write"), count - 5, "events were read together")
         self.assertLessEqual(for_keys / calls.count("write"), 3.1)
