@@ -7,8 +7,8 @@
 #include "app/cli/CommandTable.h"
 #include "app/cli/Listing.h"
 #include "app/cli/WatchLine.h"
-#include "platform/linux/desktop/ControlSocket.h"
-#include "platform/linux/desktop/InstanceLock.h"
+#include "platform/posix/ControlSocket.h"
+#include "platform/posix/InstanceLock.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>
@@ -24,7 +24,7 @@ namespace tarvin {
 namespace {
 
 using namespace std::chrono_literals;
-using desktop::ControlConnection;
+using posix::ControlConnection;
 
 /// How long a program that has just started, or another command at work, is waited for.
 constexpr auto roadTimeout = 20s;
@@ -96,8 +96,8 @@ CommandReply perform(const CommandRequest& request)
     const ControlPaths paths = ControlPaths::fromEnvironment();
     const QDeadlineTimer deadline(roadTimeout);
     for (;;) {
-        std::optional<desktop::InstanceLock> lock(paths.edit);
-        if (lock->state() != desktop::InstanceLock::State::heldByAnother) {
+        std::optional<posix::InstanceLock> lock(paths.edit);
+        if (lock->state() != posix::InstanceLock::State::heldByAnother) {
             // Under the lock: a program that starts now waits until the files are edited.
             auto program = ControlConnection::open(paths.control);
             if (!program)

@@ -13,8 +13,6 @@
 #include "platform/linux/desktop/NoHaptics.h"
 #include "platform/linux/desktop/QtAppShell.h"
 #include "platform/linux/desktop/QtScheduler.h"
-#include "platform/linux/desktop/RandomUuids.h"
-#include "platform/linux/desktop/StdoutConsole.h"
 #include "platform/linux/desktop/XConnection.h"
 #include "platform/linux/evdev/LinuxInputTaps.h"
 #include "platform/linux/evdev/TapClient.h"
@@ -30,6 +28,8 @@
 #include "platform/posix/JsonPreferences.h"
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixUserEnvironment.h"
+#include "platform/posix/RandomUuids.h"
+#include "platform/posix/StdoutConsole.h"
 
 #include <QWidget>
 
@@ -55,14 +55,14 @@ public:
     std::vector<std::unique_ptr<QWidget>> views; ///< of the panels; the shell keeps their windows to its end
     desktop::QtScheduler scheduler;
     const std::function<void(const QString&)> log;
-    desktop::StdoutConsole console;
+    posix::StdoutConsole console;
     posix::PosixFiles files;
     posix::JsonPreferences preferences;
     desktop::LinuxProcessInfo processInfo;
     desktop::LinuxScripts scripts;
     desktop::AutostartLoginItem loginItem;
     desktop::LinuxFunctionKeySetting functionKeySetting;
-    desktop::RandomUuids uuids;
+    posix::RandomUuids uuids;
     x11::InputThread inputThread;
     x11::X11InputTaps sessionTaps;
     evdev::TapClient tapClient;

@@ -3,9 +3,9 @@
 #include "actions/TestEnvironment.h"
 #include "app/ControlPaths.h"
 #include "app/cli/CommandMessages.h"
-#include "platform/linux/desktop/ControlSocket.h"
 #include "platform/linux/desktop/LinuxProcessInfo.h"
 #include "platform/linux/x11/XCapabilities.h"
+#include "platform/posix/ControlSocket.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -66,7 +66,7 @@ QStringList keyboardHolders()
 
 void askProgram(DoctorFacts& facts)
 {
-    auto connection = desktop::ControlConnection::open(ControlPaths::fromEnvironment().control);
+    auto connection = posix::ControlConnection::open(ControlPaths::fromEnvironment().control);
     facts.isRunning = connection.has_value();
     if (!connection
         || !connection->send(

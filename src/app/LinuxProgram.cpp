@@ -12,13 +12,13 @@
 #include "interception/TriggerNotice.h"
 #include "menubar/MenuBarItem.h"
 #include "platform/linux/desktop/ApplicationId.h"
-#include "platform/linux/desktop/InstanceLock.h"
 #include "platform/linux/desktop/InstanceRequest.h"
 #include "platform/linux/desktop/KeyboardSettings.h"
 #include "platform/linux/desktop/SingleInstance.h"
-#include "platform/linux/desktop/TerminationSignals.h"
 #include "platform/linux/desktop/TrayLookout.h"
 #include "platform/linux/desktop/XServerProbe.h"
+#include "platform/posix/InstanceLock.h"
+#include "platform/posix/TerminationSignals.h"
 #include "profiles/KeyProfile.h"
 #include "shell/AppDelegate.h"
 #include "shell/BackgroundModeManager.h"
@@ -75,7 +75,7 @@ public:
     /// @return the exit code of the process
     [[nodiscard]] int run(const desktop::InstanceRequest& firstRequest)
     {
-        const desktop::TerminationSignals signals([this] { m_desktop.shell.terminate(); });
+        const posix::TerminationSignals signals([this] { m_desktop.shell.terminate(); });
         QObject::connect(qGuiApp, &QGuiApplication::focusWindowChanged, &m_desktop.shell,
             [this](const QWindow* window) { m_desktop.sessionTaps.setStudioActive(window != nullptr); });
         m_desktop.tapClient.setWayOutHandler([this] {
@@ -121,8 +121,7 @@ private:
     {
         const QDeadlineTimer deadline(commandPatience);
         const QString path = ControlPaths::fromEnvironment().edit;
-        while (desktop::InstanceLock(path).state() == desktop::InstanceLock::State::heldByAnother
-            && !deadline.hasExpired())
+        while (posix::InstanceLock(path).state() == posix::InstanceLock::State::heldByAnother && !deadline.hasExpired())
             std::this_thread::sleep_for(5ms);
     }
 

@@ -3,11 +3,11 @@
 #include "actions/usage/ActionUsageTracker.h"
 #include "app/cli/CommandService.h"
 #include "platform/linux/desktop/QtScheduler.h"
-#include "platform/linux/desktop/RandomUuids.h"
 #include "platform/ports/Console.h"
 #include "platform/ports/Workspace.h"
 #include "platform/posix/JsonPreferences.h"
 #include "platform/posix/PosixFiles.h"
+#include "platform/posix/RandomUuids.h"
 #include "platform/posix/XdgDirectories.h"
 #include "profiles/KeyProfile.h"
 #include "profiles/MappingArchive.h"
@@ -50,7 +50,7 @@ CommandReply performOnFiles(const CommandRequest& request)
 {
     StderrConsole console;
     NoWorkspace workspace;
-    desktop::RandomUuids uuids;
+    posix::RandomUuids uuids;
     desktop::QtScheduler scheduler;
     posix::PosixFiles files(posix::applicationSupportDirectory());
     posix::JsonPreferences preferences(

@@ -19,7 +19,7 @@ namespace tarvin {
 ProgramCommands::ProgramCommands(SharedObjects& objects, const QString& controlPath, Surroundings surroundings)
     : m_objects(objects)
     , m_surroundings(std::move(surroundings))
-    , m_socket(controlPath, [this](const QByteArray& line, desktop::ControlCaller& caller) { handle(line, caller); })
+    , m_socket(controlPath, [this](const QByteArray& line, posix::ControlCaller& caller) { handle(line, caller); })
 { }
 
 ProgramCommands::~ProgramCommands()
@@ -27,7 +27,7 @@ ProgramCommands::~ProgramCommands()
     m_watchers.clear();
 }
 
-void ProgramCommands::handle(const QByteArray& line, desktop::ControlCaller& caller)
+void ProgramCommands::handle(const QByteArray& line, posix::ControlCaller& caller)
 {
     const std::optional<CommandRequest> request = commandRequestFromLine(line);
     if (request && request->command == u"watch") {
@@ -42,7 +42,7 @@ void ProgramCommands::handle(const QByteArray& line, desktop::ControlCaller& cal
     caller.finish();
 }
 
-void ProgramCommands::addWatcher(desktop::ControlCaller& caller)
+void ProgramCommands::addWatcher(posix::ControlCaller& caller)
 {
     m_watchers.push_back(&caller);
     caller.setGoneHandler([this, &caller] {
@@ -63,7 +63,7 @@ void ProgramCommands::updateObserver()
     m_objects.eventTapManager().setKeyObserver([this](const KeyObservation& observation) {
         const QByteArray line = QJsonDocument(toJson(observation)).toJson(QJsonDocument::Compact) + '\n';
         // A copy, because one that is dropped takes itself off the list.
-        for (desktop::ControlCaller* const watcher : std::vector(m_watchers))
+        for (posix::ControlCaller* const watcher : std::vector(m_watchers))
             watcher->send(line);
     });
 }

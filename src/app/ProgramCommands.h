@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/cli/CommandService.h"
-#include "platform/linux/desktop/ControlSocket.h"
+#include "platform/posix/ControlSocket.h"
 
 #include <QJsonObject>
 
@@ -32,8 +32,8 @@ public:
     ProgramCommands& operator=(const ProgramCommands&) = delete;
 
 private:
-    void handle(const QByteArray& line, desktop::ControlCaller& caller);
-    void addWatcher(desktop::ControlCaller& caller);
+    void handle(const QByteArray& line, posix::ControlCaller& caller);
+    void addWatcher(posix::ControlCaller& caller);
     void updateObserver();
     [[nodiscard]] QJsonObject status() const;
     [[nodiscard]] CommandService& service();
@@ -41,8 +41,8 @@ private:
     SharedObjects& m_objects;
     Surroundings m_surroundings;
     std::optional<CommandService> m_service;
-    std::vector<desktop::ControlCaller*> m_watchers;
-    desktop::ControlSocket m_socket;
+    std::vector<posix::ControlCaller*> m_watchers;
+    posix::ControlSocket m_socket;
 };
 
 } // namespace tarvin

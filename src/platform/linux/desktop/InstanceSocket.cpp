@@ -30,7 +30,7 @@ struct InstanceSocket::Caller
         , notifier(std::make_unique<QSocketNotifier>(number, QSocketNotifier::Read))
     { }
 
-    Descriptor descriptor;
+    posix::Descriptor descriptor;
     std::unique_ptr<QSocketNotifier> notifier; ///< goes before the descriptor
     QByteArray received;
 };
@@ -38,7 +38,7 @@ struct InstanceSocket::Caller
 InstanceSocket::InstanceSocket(const QString& path, InstanceRequestHandler handler)
     : m_path(path)
     , m_handler(std::move(handler))
-    , m_listener(listenAt(path))
+    , m_listener(posix::listenAt(path))
 {
     if (!m_listener.isValid())
         return;
@@ -87,7 +87,7 @@ void InstanceSocket::read(int descriptor)
 
 bool InstanceSocket::send(const QString& path, const InstanceRequest& request, std::chrono::milliseconds timeout)
 {
-    const Descriptor descriptor = connectTo(path);
+    const posix::Descriptor descriptor = posix::connectTo(path);
     if (!descriptor.isValid())
         return false;
     const QByteArray line = toLine(request);
@@ -95,7 +95,7 @@ bool InstanceSocket::send(const QString& path, const InstanceRequest& request, s
         != line.size())
         return false;
     QByteArray answer(acceptedAnswer.size(), '\0');
-    return waitFor(descriptor.number(), POLLIN, timeout)
+    return posix::waitFor(descriptor.number(), POLLIN, timeout)
         && ::read(descriptor.number(), answer.data(), static_cast<std::size_t>(answer.size())) == answer.size()
         && answer == acceptedAnswer;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/linux/desktop/InstanceRequest.h"
-#include "platform/linux/desktop/UnixSocket.h"
+#include "platform/posix/UnixSocket.h"
 
 #include <chrono>
 #include <functional>
@@ -42,7 +42,7 @@ private:
 
     QString m_path;
     InstanceRequestHandler m_handler;
-    Descriptor m_listener;
+    posix::Descriptor m_listener;
     std::unique_ptr<QSocketNotifier> m_notifier;
     std::unordered_map<int, Caller> m_callers; ///< by their descriptor
 };

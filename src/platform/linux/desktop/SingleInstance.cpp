@@ -68,7 +68,7 @@ SingleInstance::Outcome SingleInstance::claim(
     const std::optional<InstanceRequest>& request, InstanceRequestHandler handler)
 {
     m_lock.emplace(m_lockPath);
-    if (m_lock->state() == InstanceLock::State::heldByAnother) {
+    if (m_lock->state() == posix::InstanceLock::State::heldByAnother) {
         m_lock.reset();
         return forward(request);
     }
@@ -78,7 +78,7 @@ SingleInstance::Outcome SingleInstance::claim(
         m_lock.reset();
         return forward(request);
     }
-    if (name == BusApplication::Claim::noBus && m_lock->state() == InstanceLock::State::unavailable)
+    if (name == BusApplication::Claim::noBus && m_lock->state() == posix::InstanceLock::State::unavailable)
         return Outcome::unguarded;
     m_socket = std::make_unique<InstanceSocket>(m_socketPath, std::move(handler));
     return Outcome::first;

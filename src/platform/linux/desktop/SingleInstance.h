@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/linux/desktop/BusApplication.h"
-#include "platform/linux/desktop/InstanceLock.h"
 #include "platform/linux/desktop/InstanceSocket.h"
+#include "platform/posix/InstanceLock.h"
 
 #include <QDBusConnection>
 
@@ -50,7 +50,7 @@ private:
     const QString m_socketPath;
     QDBusConnection m_bus;
     QObject m_busHost;
-    std::optional<InstanceLock> m_lock;
+    std::optional<posix::InstanceLock> m_lock;
     std::unique_ptr<InstanceSocket> m_socket;
 };
 

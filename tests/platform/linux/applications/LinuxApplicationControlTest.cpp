@@ -4,8 +4,8 @@
 #include "platform/linux/desktop/EwmhWorkspace.h"
 #include "platform/linux/desktop/InstalledApplications.h"
 #include "platform/linux/desktop/QtScheduler.h"
-#include "platform/linux/desktop/StdoutConsole.h"
 #include "platform/linux/desktop/XConnection.h"
+#include "platform/posix/StdoutConsole.h"
 
 #include "platform/linux/desktop/support/EnvironmentChange.h"
 #include "platform/linux/desktop/support/PrivateDesktop.h"
@@ -94,7 +94,7 @@ protected:
     }
 
     std::unique_ptr<PrivateDesktop> desktop;
-    desktop::StdoutConsole console;
+    posix::StdoutConsole console;
     desktop::QtScheduler scheduler;
     std::unique_ptr<desktop::XConnection> connection;
     std::unique_ptr<desktop::InstalledApplications> installed;

@@ -1,10 +1,10 @@
 #include "platform/linux/capture/LinuxScreenCapture.h"
 
 #include "platform/linux/desktop/QtScheduler.h"
-#include "platform/linux/desktop/StdoutConsole.h"
 #include "platform/linux/desktop/WindowFacts.h"
 #include "platform/linux/desktop/XConnection.h"
 #include "platform/linux/windows/WindowFrame.h"
+#include "platform/posix/StdoutConsole.h"
 
 #include "platform/linux/desktop/support/EnvironmentChange.h"
 #include "platform/linux/desktop/support/PrivateDesktop.h"
@@ -147,7 +147,7 @@ protected:
 
     std::unique_ptr<PrivateDesktop> desktop;
     std::unique_ptr<PrivateBus> bus;
-    desktop::StdoutConsole console;
+    posix::StdoutConsole console;
     desktop::QtScheduler scheduler;
     std::unique_ptr<desktop::XConnection> connection;
     std::unique_ptr<LinuxScreenCapture> capture;

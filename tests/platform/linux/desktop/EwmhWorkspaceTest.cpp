@@ -1,6 +1,6 @@
 #include "platform/linux/desktop/EwmhWorkspace.h"
 #include "platform/linux/desktop/QtScheduler.h"
-#include "platform/linux/desktop/StdoutConsole.h"
+#include "platform/posix/StdoutConsole.h"
 
 #include "platform/linux/desktop/support/EnvironmentChange.h"
 #include "platform/linux/desktop/support/PrivateDesktop.h"
@@ -81,7 +81,7 @@ protected:
 
     const std::vector<PrivateDesktop::Part> parts;
     std::unique_ptr<PrivateDesktop> desktop;
-    StdoutConsole console;
+    posix::StdoutConsole console;
     QtScheduler scheduler;
     std::unique_ptr<XConnection> connection;
     std::unique_ptr<InstalledApplications> applications;
@@ -353,7 +353,7 @@ TEST_F(WorkspaceWithoutManager, aManagerThatComesLaterIsNoticed)
 TEST(WorkspaceWithoutX, thereIsNothingAndNothingBreaks)
 {
     const EnvironmentChange noDisplay("DISPLAY", std::nullopt);
-    StdoutConsole console;
+    posix::StdoutConsole console;
     QtScheduler scheduler;
     XConnection connection(scheduler, console);
     InstalledApplications applications(scheduler, {});

@@ -1,5 +1,4 @@
 #include "platform/linux/desktop/SingleInstance.h"
-#include "platform/linux/desktop/InstanceLock.h"
 #include "platform/linux/desktop/InstanceSocket.h"
 
 #include "platform/linux/desktop/support/EnvironmentChange.h"
@@ -178,19 +177,6 @@ TEST(FirstStart, takesTheAddressesOfItsOwnCommandLine)
     const PrivateDesktop desktop({PrivateDesktop::Part::windowManager});
     const auto probe = desktop.start("tarvin_shell_probe", {"tarvin://open-studio"});
     EXPECT_TRUE(lineFrom(*probe, "urls tarvin://open-studio"));
-}
-
-TEST(InstanceLock, isHeldByOneAtATime)
-{
-    const QTemporaryDir directory;
-    const QString path = directory.filePath(QStringLiteral("lock"));
-    {
-        const InstanceLock first(path);
-        EXPECT_EQ(first.state(), InstanceLock::State::held);
-        EXPECT_EQ(InstanceLock(path).state(), InstanceLock::State::heldByAnother);
-    }
-    EXPECT_EQ(InstanceLock(path).state(), InstanceLock::State::held);
-    EXPECT_EQ(InstanceLock(QString()).state(), InstanceLock::State::unavailable);
 }
 
 TEST(InstanceSocket, takesThePlaceOfWhatACrashLeft)

@@ -2,8 +2,6 @@
 #include "platform/linux/desktop/LinuxPermission.h"
 #include "platform/linux/desktop/LinuxProcessInfo.h"
 #include "platform/linux/desktop/LinuxScripts.h"
-#include "platform/linux/desktop/RandomUuids.h"
-#include "platform/linux/desktop/StdoutConsole.h"
 
 #include "platform/linux/desktop/support/EnvironmentChange.h"
 #include "support/QtPrinters.h"
@@ -37,23 +35,6 @@ TEST(LinuxPermission, isThereWhileAConsumingPathCanBeHad)
     EXPECT_FALSE(permission.isProcessTrusted());
     canConsume = true;
     EXPECT_TRUE(permission.isProcessTrusted());
-}
-
-TEST(RandomUuids, areDifferentAndRandom)
-{
-    RandomUuids uuids;
-    const QUuid first = uuids.next();
-    EXPECT_NE(first, uuids.next());
-    EXPECT_EQ(first.version(), QUuid::Random);
-}
-
-TEST(StdoutConsole, writesALineAtOnceInUtf8)
-{
-    testing::internal::CaptureStdout();
-    StdoutConsole().printLine(QStringLiteral("[Tarvin] Müde"));
-    EXPECT_EQ(testing::internal::GetCapturedStdout(),
-        "[Tarvin] M\xC3\xBC"
-        "de\n");
 }
 
 TEST(LinuxScripts, secondRoadsAreSilentAndSucceed)

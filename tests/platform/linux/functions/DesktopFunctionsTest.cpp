@@ -1,8 +1,8 @@
 #include "platform/linux/functions/DesktopFunctions.h"
 
 #include "platform/linux/desktop/QtScheduler.h"
-#include "platform/linux/desktop/StdoutConsole.h"
 #include "platform/linux/desktop/XConnection.h"
+#include "platform/posix/StdoutConsole.h"
 
 #include "platform/linux/desktop/support/EnvironmentChange.h"
 #include "platform/linux/desktop/support/PrivateDesktop.h"
@@ -100,7 +100,7 @@ protected:
 
     std::unique_ptr<PrivateDesktop> desktop;
     std::unique_ptr<PrivateBus> bus;
-    desktop::StdoutConsole console;
+    posix::StdoutConsole console;
     desktop::QtScheduler scheduler;
     std::unique_ptr<desktop::XConnection> connection;
     std::unique_ptr<DesktopFunctions> functions;

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "platform/linux/desktop/QtScheduler.h"
-#include "platform/linux/desktop/StdoutConsole.h"
 #include "platform/linux/desktop/XConnection.h"
 #include "platform/ports/Geometry.h"
+#include "platform/posix/StdoutConsole.h"
 
 #include "platform/linux/desktop/support/PrivateDesktop.h"
 
@@ -74,7 +74,7 @@ protected:
     }
 
     std::unique_ptr<PrivateDesktop> desktop;
-    desktop::StdoutConsole console;
+    posix::StdoutConsole console;
     desktop::QtScheduler scheduler;
     std::unique_ptr<desktop::XConnection> connection;
 };

@@ -6,8 +6,8 @@
 #include "platform/linux/desktop/QtAppShell.h"
 #include "platform/linux/desktop/QtScheduler.h"
 #include "platform/linux/desktop/SingleInstance.h"
-#include "platform/linux/desktop/StdoutConsole.h"
-#include "platform/linux/desktop/TerminationSignals.h"
+#include "platform/posix/StdoutConsole.h"
+#include "platform/posix/TerminationSignals.h"
 
 #include <QApplication>
 #include <QFile>
@@ -134,7 +134,7 @@ int main(int count, char** arguments)
 {
     const QByteArray startupId = takeStartupId();
     QApplication application(count, arguments);
-    StdoutConsole console;
+    posix::StdoutConsole console;
     QtScheduler scheduler;
     XConnection connection(scheduler, console);
     QtAppShell shell(scheduler, connection);
@@ -150,7 +150,7 @@ int main(int count, char** arguments)
         console.printLine(QStringLiteral("outcome %1").arg(static_cast<int>(outcome)));
         return outcome == SingleInstance::Outcome::forwarded ? 0 : 1;
     }
-    const TerminationSignals terminationSignals([&] { shell.terminate(); });
+    const posix::TerminationSignals terminationSignals([&] { shell.terminate(); });
     InstalledApplications applications(scheduler, ApplicationLocations::fromEnvironment());
     EwmhWorkspace workspace(
         connection, applications, scheduler, [&](const QString& url) { shell.openUrls({url}, {}); });

@@ -1,4 +1,4 @@
-#include "platform/linux/desktop/InstanceLock.h"
+#include "platform/posix/InstanceLock.h"
 
 #include <QFile>
 
@@ -8,7 +8,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
-namespace tarvin::desktop {
+namespace tarvin::posix {
 
 InstanceLock::InstanceLock(const QString& path)
     // Closed in children, or a launched application would keep the lock after our end.
@@ -28,4 +28,4 @@ InstanceLock::~InstanceLock()
         close(m_descriptor);
 }
 
-} // namespace tarvin::desktop
+} // namespace tarvin::posix

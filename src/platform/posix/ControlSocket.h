@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/desktop/UnixSocket.h"
+#include "platform/posix/UnixSocket.h"
 
 #include <QByteArray>
 
@@ -12,7 +12,7 @@
 
 class QSocketNotifier;
 
-namespace tarvin::desktop {
+namespace tarvin::posix {
 
 /// The other end of one command, in the program that runs.
 class ControlCaller
@@ -79,4 +79,4 @@ private:
     QByteArray m_received;
 };
 
-} // namespace tarvin::desktop
+} // namespace tarvin::posix

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace tarvin::desktop {
+namespace tarvin::posix {
 
 /// A lock on a file that one process at a time can hold; the system frees it when that process ends, however it ends.
 class InstanceLock
@@ -23,4 +23,4 @@ private:
     State m_state = State::unavailable;
 };
 
-} // namespace tarvin::desktop
+} // namespace tarvin::posix

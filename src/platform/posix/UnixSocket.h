@@ -3,13 +3,15 @@
 #include <QString>
 
 #include <chrono>
+#include <cstddef>
 #include <optional>
 #include <utility>
 
 #include <sys/socket.h>
+#include <sys/types.h>
 #include <sys/un.h>
 
-namespace tarvin::desktop {
+namespace tarvin::posix {
 
 /// A descriptor that is closed with its owner.
 class Descriptor
@@ -37,6 +39,19 @@ private:
 /// Absent where the path is empty or too long for a socket.
 [[nodiscard]] std::optional<sockaddr_un> socketAddress(const QString& path);
 
+enum class SocketCalls { block, returnAtOnce };
+
+// What each system does in its own way. A reader that is gone is an error of `sendTo`, never a signal.
+
+/// Closed in children; invalid where none can be had.
+[[nodiscard]] Descriptor newUnixSocket(SocketCalls calls);
+/// The next caller, whose calls return at once; invalid where there is none.
+[[nodiscard]] Descriptor acceptFrom(const Descriptor& listener);
+/// As the system call of the like name, errno included.
+[[nodiscard]] ssize_t sendTo(const Descriptor& connection, const char* bytes, std::size_t count);
+/// Whether the process at the other end belongs to the user of this one.
+[[nodiscard]] bool isOfThisUser(const Descriptor& connection);
+
 /// A listening socket that doesn't block, in the place of what an earlier process left there.
 [[nodiscard]] Descriptor listenAt(const QString& path);
 
@@ -45,4 +60,4 @@ private:
 
 [[nodiscard]] bool waitFor(int descriptor, short event, std::chrono::milliseconds timeout);
 
-} // namespace tarvin::desktop
+} // namespace tarvin::posix

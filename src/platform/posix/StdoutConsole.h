@@ -2,7 +2,7 @@
 
 #include "platform/ports/Console.h"
 
-namespace tarvin::desktop {
+namespace tarvin::posix {
 
 /// The standard output, in UTF-8, each line written out at once and whole.
 class StdoutConsole : public Console
@@ -11,4 +11,4 @@ public:
     void printLine(const QString& line) override;
 };
 
-} // namespace tarvin::desktop
+} // namespace tarvin::posix

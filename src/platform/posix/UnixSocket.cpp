@@ -1,4 +1,4 @@
-#include "platform/linux/desktop/UnixSocket.h"
+#include "platform/posix/UnixSocket.h"
 
 #include <QFile>
 
@@ -7,7 +7,7 @@
 #include <poll.h>
 #include <unistd.h>
 
-namespace tarvin::desktop {
+namespace tarvin::posix {
 
 Descriptor::~Descriptor()
 {
@@ -29,7 +29,7 @@ std::optional<sockaddr_un> socketAddress(const QString& path)
 Descriptor listenAt(const QString& path)
 {
     const std::optional<sockaddr_un> address = socketAddress(path);
-    Descriptor listener(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    Descriptor listener = newUnixSocket(SocketCalls::returnAtOnce);
     if (!address || !listener.isValid())
         return Descriptor();
     unlink(address->sun_path);
@@ -42,7 +42,7 @@ Descriptor listenAt(const QString& path)
 Descriptor connectTo(const QString& path)
 {
     const std::optional<sockaddr_un> address = socketAddress(path);
-    Descriptor connection(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    Descriptor connection = newUnixSocket(SocketCalls::block);
     if (!address || !connection.isValid()
         || connect(connection.number(), reinterpret_cast<const sockaddr*>(&*address), sizeof(*address)) != 0)
         return Descriptor();
@@ -55,4 +55,4 @@ bool waitFor(int descriptor, short event, std::chrono::milliseconds timeout)
     return poll(&one, 1, static_cast<int>(timeout.count())) == 1;
 }
 
-} // namespace tarvin::desktop
+} // namespace tarvin::posix

@@ -1,4 +1,4 @@
-#include "platform/linux/desktop/TerminationSignals.h"
+#include "platform/posix/TerminationSignals.h"
 
 #include <QSocketNotifier>
 
@@ -9,7 +9,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace tarvin::desktop {
+namespace tarvin::posix {
 
 namespace {
 
@@ -31,8 +31,12 @@ void writeToPipe(int)
 TerminationSignals::TerminationSignals(std::function<void()> onSignal)
 {
     signal(SIGPIPE, SIG_IGN);
-    if (pipe2(signalPipe.data(), O_CLOEXEC | O_NONBLOCK) != 0)
+    if (pipe(signalPipe.data()) != 0)
         return;
+    for (const int end : signalPipe) {
+        (void)fcntl(end, F_SETFD, FD_CLOEXEC);
+        (void)fcntl(end, F_SETFL, O_NONBLOCK);
+    }
     m_notifier = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
     QObject::connect(m_notifier.get(), &QSocketNotifier::activated, m_notifier.get(), [onSignal = std::move(onSignal)] {
         char byte = 0;
@@ -70,4 +74,4 @@ TerminationSignals::~TerminationSignals()
     }
 }
 
-} // namespace tarvin::desktop
+} // namespace tarvin::posix

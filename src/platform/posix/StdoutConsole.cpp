@@ -1,8 +1,8 @@
-#include "platform/linux/desktop/StdoutConsole.h"
+#include "platform/posix/StdoutConsole.h"
 
 #include <cstdio>
 
-namespace tarvin::desktop {
+namespace tarvin::posix {
 
 void StdoutConsole::printLine(const QString& line)
 {
@@ -12,4 +12,4 @@ void StdoutConsole::printLine(const QString& line)
     std::fflush(stdout);
 }
 
-} // namespace tarvin::desktop
+} // namespace tarvin::posix

@@ -1,16 +1,17 @@
-#include "platform/linux/desktop/ControlSocket.h"
+#include "platform/posix/ControlSocket.h"
 
 #include <QFile>
 #include <QSocketNotifier>
 
 #include <array>
 #include <cerrno>
+#include <utility>
 
 #include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace tarvin::desktop {
+namespace tarvin::posix {
 
 namespace {
 
@@ -19,23 +20,16 @@ constexpr qsizetype longestCommand = 64 * 1024 * 1024;
 /// What a caller may leave unfetched; one that only watches and has stopped reading is dropped beyond it.
 constexpr qsizetype longestBacklog = 64 * 1024 * 1024;
 
-bool isOfThisUser(int descriptor)
-{
-    ucred credentials{};
-    socklen_t size = sizeof(credentials);
-    return getsockopt(descriptor, SOL_SOCKET, SO_PEERCRED, &credentials, &size) == 0 && credentials.uid == getuid();
-}
-
 } // namespace
 
 class ControlSocket::Caller final : public ControlCaller
 {
 public:
-    Caller(ControlSocket& socket, int descriptor)
+    Caller(ControlSocket& socket, Descriptor descriptor)
         : m_socket(socket)
-        , m_descriptor(descriptor)
-        , m_readNotifier(descriptor, QSocketNotifier::Read)
-        , m_writeNotifier(descriptor, QSocketNotifier::Write)
+        , m_descriptor(std::move(descriptor))
+        , m_readNotifier(m_descriptor.number(), QSocketNotifier::Read)
+        , m_writeNotifier(m_descriptor.number(), QSocketNotifier::Write)
     {
         m_writeNotifier.setEnabled(false);
         QObject::connect(&m_readNotifier, &QSocketNotifier::activated, &m_readNotifier, [this] { read(); });
@@ -79,8 +73,8 @@ private:
     void write()
     {
         while (!m_pending.isEmpty()) {
-            const ssize_t sent = ::send(m_descriptor.number(), m_pending.constData(),
-                static_cast<std::size_t>(m_pending.size()), MSG_NOSIGNAL | MSG_DONTWAIT);
+            const ssize_t sent =
+                sendTo(m_descriptor, m_pending.constData(), static_cast<std::size_t>(m_pending.size()));
             if (sent < 0 && (errno == EAGAIN || errno == EINTR))
                 break;
             if (sent < 0) {
@@ -144,13 +138,11 @@ ControlSocket::~ControlSocket()
 
 void ControlSocket::accept()
 {
-    const int descriptor = accept4(m_listener.number(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
-    if (descriptor < 0)
+    Descriptor descriptor = acceptFrom(m_listener);
+    if (!descriptor.isValid() || !isOfThisUser(descriptor))
         return;
-    if (isOfThisUser(descriptor))
-        m_callers.insert_or_assign(descriptor, std::make_unique<Caller>(*this, descriptor));
-    else
-        close(descriptor);
+    const int number = descriptor.number();
+    m_callers.insert_or_assign(number, std::make_unique<Caller>(*this, std::move(descriptor)));
 }
 
 void ControlSocket::forget(int descriptor)
@@ -169,8 +161,8 @@ std::optional<ControlConnection> ControlConnection::open(const QString& path)
 bool ControlConnection::send(const QByteArray& line) const
 {
     for (qsizetype sent = 0; sent < line.size();) {
-        const ssize_t part = ::send(
-            m_descriptor.number(), line.constData() + sent, static_cast<std::size_t>(line.size() - sent), MSG_NOSIGNAL);
+        const ssize_t part =
+            sendTo(m_descriptor, line.constData() + sent, static_cast<std::size_t>(line.size() - sent));
         if (part <= 0)
             return false;
         sent += part;
@@ -196,4 +188,4 @@ std::optional<QByteArray> ControlConnection::readLine(std::chrono::milliseconds 
     }
 }
 
-} // namespace tarvin::desktop
+} // namespace tarvin::posix

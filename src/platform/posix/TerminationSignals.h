@@ -5,7 +5,7 @@
 
 class QSocketNotifier;
 
-namespace tarvin::desktop {
+namespace tarvin::posix {
 
 /// Turns the signals that ask a process to end (SIGTERM, SIGINT, SIGHUP) into a call on the main thread. One object in
 /// a process.
@@ -26,4 +26,4 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
 };
 
-} // namespace tarvin::desktop
+} // namespace tarvin::posix

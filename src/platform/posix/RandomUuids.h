@@ -2,7 +2,7 @@
 
 #include "platform/ports/UuidGenerator.h"
 
-namespace tarvin::desktop {
+namespace tarvin::posix {
 
 /// Random identifiers (version 4) from the system's generator.
 class RandomUuids : public UuidGenerator
@@ -11,4 +11,4 @@ public:
     [[nodiscard]] QUuid next() override { return QUuid::createUuid(); }
 };
 
-} // namespace tarvin::desktop
+} // namespace tarvin::posix

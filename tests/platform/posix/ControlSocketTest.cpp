@@ -1,4 +1,4 @@
-#include "platform/linux/desktop/ControlSocket.h"
+#include "platform/posix/ControlSocket.h"
 
 #include "endtoend/support/Patience.h"
 
@@ -10,7 +10,7 @@
 #include <atomic>
 #include <thread>
 
-namespace tarvin::desktop {
+namespace tarvin::posix {
 
 namespace {
 
@@ -147,4 +147,4 @@ TEST_F(ControlSocketTest, theEndOfTheProgramEndsTheConversation)
     EXPECT_EQ(connection->readLine(5s), std::nullopt);
 }
 
-} // namespace tarvin::desktop
+} // namespace tarvin::posix
