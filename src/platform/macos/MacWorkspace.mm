@@ -114,7 +114,8 @@ void MacWorkspace::openUrl(const QString& url)
 std::unique_ptr<WorkspaceObserver> MacWorkspace::observeActivation(ActivationHandler handler)
 {
     return std::make_unique<ActivationObserver>(NotificationToken(NSWorkspace.sharedWorkspace.notificationCenter,
-        NSWorkspaceDidActivateApplicationNotification, [handler = std::move(handler)](NSNotification* notification) {
+        NSWorkspaceDidActivateApplicationNotification, NotificationDelivery::mainQueue,
+        [handler = std::move(handler)](NSNotification* notification) {
             const id application = notification.userInfo[NSWorkspaceApplicationKey];
             handler([application isKindOfClass:NSRunningApplication.class] ? applicationOf(application) : std::nullopt);
         }));

@@ -8,24 +8,32 @@
 
 namespace tarvin::macos {
 
-/// One observation of a notification, from making to destruction. The handler runs on the main queue and may destroy
-/// the token; it is called no more afterwards.
+/// When a notification reaches its handler.
+enum class NotificationDelivery {
+    mainQueue, ///< in a turn of the main queue, whatever thread posts it
+    whilePosted, ///< before the call that posts it returns, on the thread of that call
+};
+
+/// One observation of a notification, from making to destruction. The handler may destroy the token; it is called no
+/// more afterwards.
 class NotificationToken
 {
 public:
     using Handler = std::function<void(NSNotification*)>;
 
-    NotificationToken(NSNotificationCenter* center, NSNotificationName name, Handler handler)
+    NotificationToken(
+        NSNotificationCenter* center, NSNotificationName name, NotificationDelivery delivery, Handler handler)
         : m_center(center)
     {
         const auto shared = std::make_shared<Handler>(std::move(handler));
-        m_observer = [center addObserverForName:name
-                                         object:nil
-                                          queue:NSOperationQueue.mainQueue
-                                     usingBlock:^(NSNotification* notification) {
-                                         const auto alive = shared;
-                                         (*alive)(notification);
-                                     }];
+        m_observer =
+            [center addObserverForName:name
+                                object:nil
+                                 queue:delivery == NotificationDelivery::mainQueue ? NSOperationQueue.mainQueue : nil
+                            usingBlock:^(NSNotification* notification) {
+                                const auto alive = shared;
+                                (*alive)(notification);
+                            }];
     }
     NotificationToken(NotificationToken&& other) noexcept
         : m_center(std::exchange(other.m_center, nil))
