@@ -27,6 +27,7 @@ typedef NSUInteger NSWindowCollectionBehavior;
 typedef NSInteger NSWindowLevel;
 enum NSBackingStoreType : NSUInteger { NSBackingStoreBuffered = 2 };
 enum : NSWindowStyleMask { NSWindowStyleMaskNonactivatingPanel = 128 };
+static const NSWindowLevel NSFloatingWindowLevel = 3;
 enum : NSWindowCollectionBehavior {
     NSWindowCollectionBehaviorCanJoinAllSpaces = 1,
     NSWindowCollectionBehaviorFullScreenAuxiliary = 256,
@@ -96,8 +97,11 @@ enum : NSUInteger { NSApplicationActivateAllWindows = 1 };
 extern "C" {
 extern NSApplication* NSApp;
 extern const NSNotificationName NSApplicationDidBecomeActiveNotification;
+extern const NSNotificationName NSApplicationDidFinishLaunchingNotification;
+extern const NSNotificationName NSApplicationWillFinishLaunchingNotification;
 extern const NSNotificationName NSApplicationWillTerminateNotification;
 extern const NSNotificationName NSWindowDidBecomeKeyNotification;
+extern const NSNotificationName NSWindowDidResignKeyNotification;
 extern const NSNotificationName NSWorkspaceDidActivateApplicationNotification;
 extern NSString* const NSWorkspaceApplicationKey;
 }
@@ -111,6 +115,7 @@ enum NSEventType : NSUInteger {
     NSEventTypeSystemDefined = 14,
 };
 enum NSEventSubtype : short {};
+enum : NSEventMask { NSEventMaskKeyDown = 1 << 10 };
 @class NSGraphicsContext;
 
 @interface NSEvent : NSObject
@@ -131,6 +136,7 @@ enum NSEventSubtype : short {};
 @property (readonly) NSEventType type;
 @property (readonly) NSEventModifierFlags modifierFlags;
 @property (readonly) unsigned short keyCode;
+@property (readonly, copy) NSString* charactersIgnoringModifiers;
 @property (readonly, getter=isARepeat) BOOL ARepeat;
 @property (readonly) NSEventSubtype subtype;
 @property (readonly) NSInteger data1;

@@ -33,6 +33,7 @@ CFTypeID CFGetTypeID(CFTypeRef value);
 CFTypeID CFBooleanGetTypeID(void);
 CFTypeID CFStringGetTypeID(void);
 CFTypeID CFArrayGetTypeID(void);
+CFTypeID CFDictionaryGetTypeID(void);
 Boolean CFBooleanGetValue(CFBooleanRef value);
 CFIndex CFArrayGetCount(CFArrayRef array);
 const void* CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index);

@@ -114,6 +114,8 @@ static inline NSRange NSMakeRange(NSUInteger location, NSUInteger length)
 
 @interface NSBundle : NSObject
 @property (class, readonly) NSBundle* mainBundle;
++ (instancetype)bundleWithPath:(NSString*)path;
+- (id)objectForInfoDictionaryKey:(NSString*)key;
 @property (readonly, copy) NSString* bundlePath;
 @property (readonly, copy) NSString* bundleIdentifier;
 @property (readonly, copy) NSDictionary<NSString*, id>* infoDictionary;
@@ -136,10 +138,12 @@ enum : NSUInteger { NSUserDomainMask = 1 };
 @interface NSFileManager : NSObject
 @property (class, readonly) NSFileManager* defaultManager;
 - (BOOL)fileExistsAtPath:(NSString*)path;
+- (NSArray<NSString*>*)contentsOfDirectoryAtPath:(NSString*)path error:(NSError**)error;
 - (NSArray<NSURL*>*)URLsForDirectory:(NSSearchPathDirectory)directory inDomains:(NSSearchPathDomainMask)domains;
 @end
 
 extern "C" NSString* NSHomeDirectory(void);
+extern "C" NSString* NSTemporaryDirectory(void);
 
 @interface NSThread : NSObject
 @property (class, readonly) BOOL isMainThread;

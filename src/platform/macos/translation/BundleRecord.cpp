@@ -1,0 +1,37 @@
+#include "platform/macos/translation/BundleRecord.h"
+
+namespace tarvin::macos {
+
+bool isApplicationPath(const QString& path)
+{
+    const QString name = path.section(u'/', -1);
+    const qsizetype dot = name.lastIndexOf(u'.');
+    // A name that only begins with a dot has no suffix.
+    return dot > 0 && QStringView(name).sliced(dot + 1) == applicationSuffix;
+}
+
+QString applicationFolderPath(ApplicationFolder folder, const QString& homeDirectory)
+{
+    switch (folder) {
+    case ApplicationFolder::applications:
+        return QStringLiteral("/Applications");
+    case ApplicationFolder::systemApplications:
+        return QStringLiteral("/System/Applications");
+    case ApplicationFolder::systemUtilities:
+        return QStringLiteral("/System/Applications/Utilities");
+    case ApplicationFolder::userApplications:
+        return homeDirectory + QStringLiteral("/Applications");
+    }
+    return {};
+}
+
+ApplicationBundle applicationBundleOf(const BundleRecord& record)
+{
+    return {.path = record.path,
+        .bundleIdentifier = record.bundleIdentifier,
+        .displayName = record.displayName,
+        .bundleName = record.bundleName,
+        .icon = record.path};
+}
+
+} // namespace tarvin::macos
