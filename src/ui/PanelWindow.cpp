@@ -57,6 +57,12 @@ void PanelWindow::movePlate(const QPoint& topLeft)
     move(topLeft - plate().topLeft());
 }
 
+void PanelWindow::centrePlateIn(const QRectF& frame)
+{
+    movePlate({static_cast<int>(std::lround(frame.x() + (frame.width() - m_plateSize.width()) / 2)),
+        static_cast<int>(std::lround(frame.y() + (frame.height() - m_plateSize.height()) / 2))});
+}
+
 void PanelWindow::setPlateSize(const QSize& size)
 {
     m_plateSize = size;

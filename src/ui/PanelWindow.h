@@ -45,6 +45,8 @@ public:
     [[nodiscard]] QRegion plateRegion() const;
     /// Moves the window so that the plate lies there.
     void movePlate(const QPoint& topLeft);
+    /// The plate comes to lie in the middle of the frame, on whole points; its shadow may reach beyond.
+    void centrePlateIn(const QRectF& frame);
 
     /// Shows the panel, from the opacity it has now.
     void fadeIn(std::chrono::milliseconds duration);

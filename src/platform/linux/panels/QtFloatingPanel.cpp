@@ -7,7 +7,6 @@
 #include <QEvent>
 #include <QGuiApplication>
 
-#include <cmath>
 #include <vector>
 
 #include <xcb/xfixes.h>
@@ -75,9 +74,7 @@ QtFloatingPanel::QtFloatingPanel(
 void QtFloatingPanel::setFrame(const Rect& frame)
 {
     m_frame = frame;
-    const QSize plate = m_view.plate().size();
-    m_view.movePlate({static_cast<int>(std::lround(frame.origin.x + (frame.size.width - plate.width()) / 2)),
-        static_cast<int>(std::lround(frame.origin.y + (frame.size.height - plate.height()) / 2))});
+    m_view.centrePlateIn(QRectF(frame.origin.x, frame.origin.y, frame.size.width, frame.size.height));
 }
 
 void QtFloatingPanel::setAlpha(double alpha)
