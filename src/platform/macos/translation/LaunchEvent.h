@@ -15,6 +15,10 @@ struct LaunchEvent
 /// Under what keyword the event says why it was sent.
 inline constexpr std::uint32_t openedAsKeyword = 0x70726474; // prdt
 
+/// The event that asks the running program to come forward: it was started again, or its icon was clicked.
+inline constexpr std::uint32_t coreEventClass = 0x61657674; // aevt
+inline constexpr std::uint32_t reopenApplication = 0x72617070; // rapp
+
 [[nodiscard]] bool isLoginItemStart(const std::optional<LaunchEvent>& event) noexcept;
 
 } // namespace tarvin::macos
