@@ -1,7 +1,7 @@
 #include "app/CommandClient.h"
 
 #include "app/ControlPaths.h"
-#include "app/LinuxDoctor.h"
+#include "app/MachineDoctor.h"
 #include "app/OfflineCommands.h"
 #include "app/cli/Arguments.h"
 #include "app/cli/CommandTable.h"
@@ -147,7 +147,7 @@ int runDoctor(const QString& command, const QStringList& words)
     const Arguments arguments(words, {{u"--json"}});
     if (arguments.error() || !arguments.operands().isEmpty())
         return fail(exitWrongInput, command, arguments.error().value_or(QStringLiteral("doctor takes no operand")));
-    const Diagnosis diagnosis = diagnose(lookAtThisMachine(QCoreApplication::arguments()));
+    const Diagnosis diagnosis = diagnoseThisMachine(QCoreApplication::arguments());
     return printReply(command,
         {.exitCode = diagnosis.canWork ? exitWell : exitFailed,
             .output = arguments.has(u"--json") ? printed(diagnosisJson(diagnosis)) : diagnosisText(diagnosis)});

@@ -62,4 +62,9 @@ Command parseCommandLine(const QStringList& arguments)
     return run;
 }
 
+bool asksForQuietStart(const QStringList& arguments)
+{
+    return std::ranges::any_of(arguments, isQuietStart);
+}
+
 } // namespace tarvin

@@ -49,4 +49,8 @@ using Command = std::variant<RunProgram, SimulateScenario, PerformCommand, Print
 /// @param arguments without the path of the executable
 [[nodiscard]] Command parseCommandLine(const QStringList& arguments);
 
+/// Whether this start is one of those that the system makes by itself, which opens no window.
+/// @param arguments as above
+[[nodiscard]] bool asksForQuietStart(const QStringList& arguments);
+
 } // namespace tarvin

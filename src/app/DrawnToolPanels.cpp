@@ -1,8 +1,5 @@
 #include "app/DrawnToolPanels.h"
 
-#include "app/LinuxDesktop.h"
-#include "platform/linux/panels/Compositor.h"
-#include "platform/linux/panels/QtFloatingPanel.h"
 #include "tools/clipboard/ClipboardHistoryHUDManager.h"
 #include "tools/clipboard/view/ClipboardHistoryView.h"
 #include "tools/ring/ActionsRingManager.h"
@@ -14,43 +11,38 @@
 
 namespace tarvin {
 
-DrawnToolPanels::DrawnToolPanels(LinuxDesktop& desktop)
-    : m_desktop(desktop)
+DrawnToolPanels::DrawnToolPanels(Surroundings surroundings)
+    : m_surroundings(std::move(surroundings))
 { }
 
 std::unique_ptr<FloatingPanel> DrawnToolPanels::clipboardHistory(ClipboardHistoryHUDManager& manager)
 {
     return panelOf(ClipboardHistoryHUDManager::traits, manager,
         std::make_unique<ClipboardHistoryView>(
-            manager.history(), [&manager](const ClipboardItem& item) { manager.pasteItem(item); }, hasCompositor()));
+            manager.history(), [&manager](const ClipboardItem& item) { manager.pasteItem(item); },
+            m_surroundings.hasCompositor));
 }
 
 std::unique_ptr<FloatingPanel> DrawnToolPanels::quickScratchpad(QuickScratchpadManager& manager)
 {
     return panelOf(QuickScratchpadManager::traits, manager,
-        std::make_unique<QuickScratchpadView>(manager.note(), hasCompositor()));
+        std::make_unique<QuickScratchpadView>(manager.note(), m_surroundings.hasCompositor));
 }
 
 std::unique_ptr<FloatingPanel> DrawnToolPanels::actionsRing(ActionsRingManager& manager)
 {
     return panelOf(ActionsRingManager::traits, manager,
         std::make_unique<ActionsRingView>(
-            [&manager](const ConfiguredAction& action) { manager.select(action); }, hasCompositor()));
-}
-
-std::function<bool()> DrawnToolPanels::hasCompositor() const
-{
-    return [&connection = m_desktop.connection] { return panels::compositorRuns(connection); };
+            [&manager](const ConfiguredAction& action) { manager.select(action); }, m_surroundings.hasCompositor));
 }
 
 template <typename View>
 std::unique_ptr<FloatingPanel> DrawnToolPanels::panelOf(
     const PanelTraits& traits, FadingPanel& manager, std::unique_ptr<View> view)
 {
-    auto panel = std::make_unique<panels::QtFloatingPanel>(*view, traits, m_desktop.shell, m_desktop.connection);
+    auto panel = m_surroundings.makePanel(*view, traits, [&manager] { manager.hide(); });
     QObject::connect(view.get(), &View::dismissed, &manager, &FadingPanel::hide);
-    QObject::connect(panel.get(), &panels::QtFloatingPanel::closeRequested, &manager, &FadingPanel::hide);
-    m_desktop.views.push_back(std::move(view));
+    m_surroundings.views.push_back(std::move(view));
     return panel;
 }
 

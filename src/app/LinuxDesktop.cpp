@@ -1,6 +1,8 @@
 #include "app/LinuxDesktop.h"
 
 #include "interception/RuntimeLog.h"
+#include "platform/linux/panels/Compositor.h"
+#include "platform/linux/panels/QtFloatingPanel.h"
 #include "platform/posix/XdgDirectories.h"
 
 #include <QDBusConnection>
@@ -113,6 +115,21 @@ Platform LinuxDesktop::ports()
         .userEnvironment = userEnvironment,
         .keyRecording = keyRecording,
         .applicationFolders = applicationFolders,
+    };
+}
+
+DrawnToolPanels::Surroundings LinuxDesktop::panelSurroundings()
+{
+    return {
+        .makePanel =
+            [this](PanelWindow& view, const PanelTraits& traits, std::function<void()> onCloseRequested) {
+                auto panel = std::make_unique<panels::QtFloatingPanel>(view, traits, shell, connection);
+                QObject::connect(
+                    panel.get(), &panels::QtFloatingPanel::closeRequested, panel.get(), std::move(onCloseRequested));
+                return panel;
+            },
+        .hasCompositor = [this] { return panels::compositorRuns(connection); },
+        .views = views,
     };
 }
 

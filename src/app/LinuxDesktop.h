@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/DrawnToolPanels.h"
 #include "app/LinuxActions.h"
 #include "platform/linux/desktop/AutostartLoginItem.h"
 #include "platform/linux/desktop/DesktopApplicationFolders.h"
@@ -51,6 +52,8 @@ public:
         std::function<void(const QString&)> tellUser);
 
     [[nodiscard]] Platform ports();
+    /// Hold this desktop.
+    [[nodiscard]] DrawnToolPanels::Surroundings panelSurroundings();
 
     std::vector<std::unique_ptr<QWidget>> views; ///< of the panels; the shell keeps their windows to its end
     desktop::QtScheduler scheduler;

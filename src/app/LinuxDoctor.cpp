@@ -1,17 +1,12 @@
-#include "app/LinuxDoctor.h"
+#include "app/MachineDoctor.h"
 
-#include "actions/TestEnvironment.h"
-#include "app/ControlPaths.h"
-#include "app/cli/CommandMessages.h"
 #include "platform/linux/desktop/LinuxProcessInfo.h"
 #include "platform/linux/x11/XCapabilities.h"
-#include "platform/posix/ControlSocket.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDir>
 #include <QFileInfo>
-#include <QJsonDocument>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -22,10 +17,6 @@
 namespace tarvin {
 
 namespace {
-
-using namespace std::chrono_literals;
-
-constexpr auto answerTimeout = 3s;
 
 /// The socket of the daemon that takes keys from the kernel.
 const QString daemonSocket = QStringLiteral("/run/tarvin/tapd.sock");
@@ -64,21 +55,6 @@ QStringList keyboardHolders()
     return holders;
 }
 
-void askProgram(DoctorFacts& facts)
-{
-    auto connection = posix::ControlConnection::open(ControlPaths::fromEnvironment().control);
-    facts.isRunning = connection.has_value();
-    if (!connection
-        || !connection->send(
-            toLine(CommandRequest{.command = QStringLiteral("status"), .words = {QStringLiteral("--json")}})))
-        return;
-    const auto line = connection->readLine(answerTimeout);
-    const auto reply = line ? commandReplyFromLine(*line) : std::nullopt;
-    facts.isAnswering = reply.has_value();
-    if (reply)
-        facts.status = QJsonDocument::fromJson(reply->output.toUtf8()).object();
-}
-
 bool hasSoundServer()
 {
     const QString given = qEnvironmentVariable("PULSE_SERVER");
@@ -97,11 +73,9 @@ bool hasStatusNotifier()
 
 } // namespace
 
-DoctorFacts lookAtThisMachine(const QStringList& arguments)
+Diagnosis diagnoseThisMachine(const QStringList& arguments)
 {
-    DoctorFacts facts;
-    facts.version = QStringLiteral(TARVIN_VERSION);
-    facts.qtVersion = QString::fromLatin1(qVersion());
+    DoctorFacts facts = factsOfTheProgram(desktop::LinuxProcessInfo(arguments));
     facts.sessionType = qEnvironmentVariable("XDG_SESSION_TYPE");
     facts.desktop = qEnvironmentVariable("XDG_CURRENT_DESKTOP");
     facts.display = qEnvironmentVariable("DISPLAY");
@@ -116,13 +90,9 @@ DoctorFacts lookAtThisMachine(const QStringList& arguments)
     facts.isDaemonReachable = access(QFile::encodeName(daemonSocket).constData(), R_OK | W_OK) == 0;
     facts.isDaemonInstalled = facts.isDaemonReachable || isDaemonInstalled();
     facts.keyboardHolders = keyboardHolders();
-    askProgram(facts);
-    const desktop::LinuxProcessInfo processInfo(arguments);
-    facts.testSafeCause = facts.isAnswering ? facts.status.value(u"testSafeMode").toString()
-                                            : TestEnvironment(processInfo).cause().value_or(QString());
     facts.hasSoundServer = hasSoundServer();
     facts.hasStatusNotifier = hasStatusNotifier();
-    return facts;
+    return diagnose(facts);
 }
 
 } // namespace tarvin

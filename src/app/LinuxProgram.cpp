@@ -1,11 +1,11 @@
-#include "app/LinuxProgram.h"
+#include "app/ResidentProgram.h"
 
+#include "app/CommandAtWork.h"
 #include "app/ControlPaths.h"
 #include "app/DrawnToolPanels.h"
 #include "app/LinuxDesktop.h"
 #include "app/ProgramCommands.h"
-#include "app/StudioPicker.h"
-#include "app/StudioSheets.h"
+#include "app/StudioMaking.h"
 #include "app/core/SharedObjects.h"
 #include "interception/EventTapManager.h"
 #include "interception/RuntimeLog.h"
@@ -17,7 +17,6 @@
 #include "platform/linux/desktop/SingleInstance.h"
 #include "platform/linux/desktop/TrayLookout.h"
 #include "platform/linux/desktop/XServerProbe.h"
-#include "platform/posix/InstanceLock.h"
 #include "platform/posix/TerminationSignals.h"
 #include "profiles/KeyProfile.h"
 #include "shell/AppDelegate.h"
@@ -28,14 +27,12 @@
 
 #include <QApplication>
 #include <QDBusConnection>
-#include <QDeadlineTimer>
 #include <QWindow>
 
 #include <chrono>
 #include <cstdio>
 #include <memory>
 #include <optional>
-#include <thread>
 
 namespace tarvin {
 
@@ -45,9 +42,6 @@ namespace {
 
 /// How long the end of the program waits for scripts and searches under way.
 constexpr auto endGrace = 2s;
-
-/// How long the start waits for a command that edits the files.
-constexpr auto commandPatience = 3s;
 
 int fail(const char* message)
 {
@@ -64,11 +58,12 @@ public:
         : m_desktop(
             arguments, [this]() -> RuntimeLog& { return m_objects.runtimeLog(); },
             [this](const QString& line) { tellUser(line); })
-        , m_panels(m_desktop)
+        , m_panels(m_desktop.panelSurroundings())
         , m_objects(m_desktop.ports(), m_panels)
         , m_commands(m_objects, ControlPaths::fromEnvironment().control,
               {.settleKeys = [this] { m_desktop.inputThread.settle(); },
                   .installedApplications = [this] { return m_desktop.applications.index().catalog.entries().size(); }})
+        , m_editors(m_desktop.ports(), m_objects)
     { }
 
     /// Until somebody asks the program to end.
@@ -94,9 +89,6 @@ public:
         // Keys click only for who sees them move.
         QObject::connect(&m_objects.backgroundModeManager(), &BackgroundModeManager::studioWindowVisibleChanged,
             &m_desktop.shell, [this] { m_desktop.sounds.prepare(); });
-        // Keys click only for who sees them move.
-        QObject::connect(&m_objects.backgroundModeManager(), &BackgroundModeManager::studioWindowVisibleChanged,
-            &m_desktop.shell, [this] { m_desktop.sounds.prepare(); });
         // The footer need not wait for its next turn.
         QObject::connect(&m_desktop.powerSources, &feedback::UPowerSources::changed, &m_desktop.shell,
             [this] { m_objects.batteryHelper().refresh(); });
@@ -116,15 +108,6 @@ public:
     }
 
 private:
-    /// A command that found no program running may be editing the files; they are read only after it.
-    static void waitForCommandAtWork()
-    {
-        const QDeadlineTimer deadline(commandPatience);
-        const QString path = ControlPaths::fromEnvironment().edit;
-        while (posix::InstanceLock(path).state() == posix::InstanceLock::State::heldByAnother && !deadline.hasExpired())
-            std::this_thread::sleep_for(5ms);
-    }
-
     void watchForTray()
     {
         m_trayLookout.emplace(m_desktop.scheduler, QDBusConnection::sessionBus(), desktop::hasXTray);
@@ -154,25 +137,11 @@ private:
 
     void makeStudio()
     {
-        const StudioCollaborators collaborators{
-            .keyProfile = m_objects.keyProfile(),
-            .eventTapManager = m_objects.eventTapManager(),
-            .fnKeyModeHelper = m_objects.fnKeyModeHelper(),
-            .batteryHelper = m_objects.batteryHelper(),
-            .tactileEngine = m_objects.keyboardTactileEngine(),
-            .backgroundModeManager = m_objects.backgroundModeManager(),
-            .accessibilityHelper = m_objects.accessibilityHelper(),
-            .openKeyboardSettings =
-                [this] {
-                    if (!desktop::openKeyboardSettings())
-                        m_objects.triggerNotice().recordTriggerDirectly(
-                            QStringLiteral("No keyboard settings are installed on this desktop"));
-                },
-        };
-        StudioSurfaces surfaces;
-        m_picker.emplace(m_desktop.ports(), m_objects).addTo(surfaces);
-        m_sheets.emplace(m_desktop.ports(), m_objects).addTo(surfaces);
-        m_studioWindow = std::make_unique<StudioWindow>(collaborators, std::move(surfaces));
+        m_studioWindow = makeStudioWindow(m_objects, m_editors.surfaces(), [this] {
+            if (!desktop::openKeyboardSettings())
+                m_objects.triggerNotice().recordTriggerDirectly(
+                    QStringLiteral("No keyboard settings are installed on this desktop"));
+        });
         AppWindow& window = m_desktop.shell.addWindow(*m_studioWindow, desktop::AppWindowKind::ordinary);
         m_objects.backgroundModeManager().setMainWindow(&window);
         window.makeKeyAndOrderFront();
@@ -183,15 +152,14 @@ private:
     DrawnToolPanels m_panels;
     SharedObjects m_objects;
     ProgramCommands m_commands;
-    std::optional<StudioPicker> m_picker; ///< with the window
-    std::optional<StudioSheets> m_sheets; ///< with the window
+    StudioEditors m_editors;
     std::optional<desktop::TrayLookout> m_trayLookout;
     std::optional<MenuBarItem> m_menuBarItem;
 };
 
 } // namespace
 
-int runLinuxProgram(int& argumentCount, char** arguments)
+int runResidentProgram(int& argumentCount, char** arguments)
 {
     if (qEnvironmentVariableIsEmpty("DISPLAY"))
         return fail(

@@ -1,14 +1,11 @@
 #include "app/OfflineCommands.h"
 
 #include "actions/usage/ActionUsageTracker.h"
+#include "app/OfflineStores.h"
 #include "app/cli/CommandService.h"
-#include "platform/linux/desktop/QtScheduler.h"
 #include "platform/ports/Console.h"
 #include "platform/ports/Workspace.h"
-#include "platform/posix/JsonPreferences.h"
-#include "platform/posix/PosixFiles.h"
 #include "platform/posix/RandomUuids.h"
-#include "platform/posix/XdgDirectories.h"
 #include "profiles/KeyProfile.h"
 #include "profiles/MappingArchive.h"
 
@@ -51,14 +48,11 @@ CommandReply performOnFiles(const CommandRequest& request)
     StderrConsole console;
     NoWorkspace workspace;
     posix::RandomUuids uuids;
-    desktop::QtScheduler scheduler;
-    posix::PosixFiles files(posix::applicationSupportDirectory());
-    posix::JsonPreferences preferences(
-        files, posix::settingsFile(), [&console](const QString& line) { console.printLine(line); });
-    ActionUsageTracker usage(files, preferences, console, scheduler);
-    KeyProfile keyProfile(
-        files, preferences, workspace, console, uuids, [&usage](KeyAction action) { usage.recordUsage(action); });
-    MappingArchive archive(keyProfile, files, uuids, scheduler);
+    OfflineStores stores([&console](const QString& line) { console.printLine(line); });
+    ActionUsageTracker usage(stores.files(), stores.preferences(), console, stores.scheduler());
+    KeyProfile keyProfile(stores.files(), stores.preferences(), workspace, console, uuids,
+        [&usage](KeyAction action) { usage.recordUsage(action); });
+    MappingArchive archive(keyProfile, stores.files(), uuids, stores.scheduler());
     CommandService service(
         keyProfile, archive, [&uuids] { return uuids.next(); }, std::nullopt);
     return service.perform(request);

@@ -1,6 +1,6 @@
 #include "app/CommandClient.h"
 #include "app/CommandLine.h"
-#include "app/LinuxProgram.h"
+#include "app/ResidentProgram.h"
 #include "app/simulate/SimulateCommand.h"
 
 #include <QString>
@@ -39,5 +39,5 @@ int main(int argumentCount, char** arguments)
         print(stderr, QStringLiteral("tarvin: ") + error->message);
         return wrongArguments;
     }
-    return runLinuxProgram(argumentCount, arguments);
+    return runResidentProgram(argumentCount, arguments);
 }

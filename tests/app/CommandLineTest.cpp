@@ -26,6 +26,14 @@ TEST(CommandLine, aStartAtLoginIsNoUrlAndNoError)
     EXPECT_EQ(parsed<RunProgram>({QStringLiteral("-loginItem")}), RunProgram{});
 }
 
+TEST(CommandLine, aStartAtLoginOpensNoWindow)
+{
+    for (const char* argument : {"--startup", "--background", "-loginItem"})
+        EXPECT_TRUE(asksForQuietStart({QString::fromLatin1(argument)})) << argument;
+    EXPECT_FALSE(asksForQuietStart({}));
+    EXPECT_FALSE(asksForQuietStart({QStringLiteral("tarvin://open-studio")}));
+}
+
 TEST(CommandLine, addressesOfTheSchemeAreKeptInOrder)
 {
     const QStringList urls{QStringLiteral("tarvin://open-studio"), QStringLiteral("TARVIN:anything")};

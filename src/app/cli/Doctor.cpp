@@ -100,7 +100,31 @@ Finding holdersFinding(const DoctorFacts& facts)
         .remedy = QStringLiteral("if customised keys do nothing, end it and look again")};
 }
 
-Finding programFinding(const DoctorFacts& facts)
+Finding versionFinding(const DoctorFacts& facts)
+{
+    return {.kind = FindingKind::good,
+        .subject = QStringLiteral("version"),
+        .text = QStringLiteral("tarvin %1, Qt %2").arg(facts.version, facts.qtVersion)};
+}
+
+Finding permissionFinding(const DoctorFacts& facts)
+{
+    const QString subject = QStringLiteral("permission");
+    if (!facts.isAnswering) {
+        return {.kind = FindingKind::note,
+            .subject = subject,
+            .text = QStringLiteral("only the running program can tell whether it may take keys")};
+    }
+    if (facts.status.value(u"hasPermission").toBool())
+        return {.kind = FindingKind::good, .subject = subject, .text = QStringLiteral("Tarvin may take keys")};
+    return {.kind = FindingKind::problem,
+        .subject = subject,
+        .text = QStringLiteral("Tarvin may not take keys"),
+        .remedy = QStringLiteral("System Settings, Privacy & Security, Accessibility: switch Tarvin on")};
+}
+
+/// @param idleRemedy what to do where the program runs and takes no keys
+Finding programFinding(const DoctorFacts& facts, const QString& idleRemedy)
 {
     const QString subject = QStringLiteral("program");
     if (!facts.isRunning) {
@@ -119,7 +143,7 @@ Finding programFinding(const DoctorFacts& facts)
         return {.kind = FindingKind::problem,
             .subject = subject,
             .text = QStringLiteral("Tarvin runs, but takes no keys"),
-            .remedy = QStringLiteral("see the paths above, and the end of ~/.local/share/Tarvin/runtime.log")};
+            .remedy = idleRemedy};
     }
     return {.kind = FindingKind::good, .subject = subject, .text = QStringLiteral("Tarvin runs and takes keys")};
 }
@@ -182,6 +206,12 @@ Finding menuBarFinding(const DoctorFacts& facts)
                                  "Studio in any case")};
 }
 
+/// Or does not run, in which case nothing is known against it.
+bool programIsWell(const DoctorFacts& facts)
+{
+    return !facts.isRunning || (facts.isAnswering && facts.status.value(u"engineRunning").toBool());
+}
+
 QString wordOf(FindingKind kind)
 {
     switch (kind) {
@@ -201,22 +231,32 @@ Diagnosis diagnose(const DoctorFacts& facts)
 {
     Diagnosis diagnosis;
     diagnosis.findings = {
-        {.kind = FindingKind::good,
-            .subject = QStringLiteral("version"),
-            .text = QStringLiteral("tarvin %1, Qt %2").arg(facts.version, facts.qtVersion)},
+        versionFinding(facts),
         sessionFinding(facts),
         xPathFinding(facts),
         daemonFinding(facts),
         holdersFinding(facts),
-        programFinding(facts),
+        programFinding(facts, QStringLiteral("see the paths above, and the end of ~/.local/share/Tarvin/runtime.log")),
     };
     if (const std::optional<Finding> switches = switchFinding(facts))
         diagnosis.findings += *switches;
     diagnosis.findings += {testSafeFinding(facts), menuBarFinding(facts), soundFinding(facts)};
 
     const bool hasPath = facts.isDaemonReachable || (lackOfXPath(facts).isEmpty() && !isWayland(facts));
-    const bool programIsWell = !facts.isRunning || (facts.isAnswering && facts.status.value(u"engineRunning").toBool());
-    diagnosis.canWork = hasPath && programIsWell && facts.testSafeCause.isEmpty();
+    diagnosis.canWork = hasPath && programIsWell(facts) && facts.testSafeCause.isEmpty();
+    return diagnosis;
+}
+
+Diagnosis diagnoseMac(const DoctorFacts& facts)
+{
+    Diagnosis diagnosis;
+    diagnosis.findings = {versionFinding(facts), permissionFinding(facts),
+        programFinding(facts,
+            QStringLiteral("see the permission, and the end of ~/Library/Application Support/Tarvin/runtime.log"))};
+    if (const std::optional<Finding> switches = switchFinding(facts))
+        diagnosis.findings += *switches;
+    diagnosis.findings += testSafeFinding(facts);
+    diagnosis.canWork = programIsWell(facts) && facts.testSafeCause.isEmpty();
     return diagnosis;
 }
 

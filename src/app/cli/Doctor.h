@@ -56,8 +56,10 @@ struct Diagnosis
     bool canWork = false; ///< whether keys can be taken in this session
 };
 
-/// Judges what was found.
+/// Judges what was found on a Linux desktop.
 [[nodiscard]] Diagnosis diagnose(const DoctorFacts& facts);
+/// Judges what was found on a Mac, where all hangs on one permission.
+[[nodiscard]] Diagnosis diagnoseMac(const DoctorFacts& facts);
 
 [[nodiscard]] QString diagnosisText(const Diagnosis& diagnosis);
 [[nodiscard]] QJsonObject diagnosisJson(const Diagnosis& diagnosis);

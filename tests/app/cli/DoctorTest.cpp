@@ -168,6 +168,50 @@ TEST(Doctor, scriptsReadTheSame)
     EXPECT_EQ(json.value(u"findings").toArray().at(0).toObject().value(u"kind"), QJsonValue(u"ok"_qs));
 }
 
+/// A Mac on which everything is well and the program runs.
+DoctorFacts goodMacFacts()
+{
+    return {.version = u"1.0"_qs,
+        .qtVersion = u"6.4.2"_qs,
+        .isRunning = true,
+        .isAnswering = true,
+        .status = {{u"engineRunning"_qs, true}, {u"hasPermission"_qs, true}}};
+}
+
+FindingKind kindOnMac(const DoctorFacts& facts, const QString& subject)
+{
+    const Diagnosis diagnosis = diagnoseMac(facts);
+    const auto found = std::ranges::find(diagnosis.findings, subject, &Finding::subject);
+    EXPECT_NE(found, diagnosis.findings.end()) << subject.toStdString();
+    return found == diagnosis.findings.end() ? FindingKind::good : found->kind;
+}
+
+TEST(DoctorOnAMac, asksOnlyForThePermission)
+{
+    const Diagnosis diagnosis = diagnoseMac(goodMacFacts());
+    EXPECT_TRUE(diagnosis.canWork);
+    EXPECT_TRUE(
+        std::ranges::all_of(diagnosis.findings, [](const Finding& one) { return one.kind == FindingKind::good; }));
+}
+
+TEST(DoctorOnAMac, withoutThePermissionNoKeysAreTaken)
+{
+    DoctorFacts facts = goodMacFacts();
+    facts.status = {{u"engineRunning"_qs, false}, {u"hasPermission"_qs, false}};
+    EXPECT_EQ(kindOnMac(facts, u"permission"_qs), FindingKind::problem);
+    EXPECT_EQ(kindOnMac(facts, u"program"_qs), FindingKind::problem);
+    EXPECT_FALSE(diagnoseMac(facts).canWork);
+}
+
+TEST(DoctorOnAMac, whereNoProgramRunsNobodyKnowsOfThePermission)
+{
+    DoctorFacts facts = goodMacFacts();
+    facts.isRunning = facts.isAnswering = false;
+    facts.status = {};
+    EXPECT_EQ(kindOnMac(facts, u"permission"_qs), FindingKind::note);
+    EXPECT_TRUE(diagnoseMac(facts).canWork);
+}
+
 } // namespace
 
 } // namespace tarvin
