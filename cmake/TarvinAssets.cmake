@@ -5,9 +5,12 @@ if(result)
     message(FATAL_ERROR "The symbols and fonts of the interface are missing. Run tools/fetch-assets where an npm "
                         "registry can be reached; later builds need no network.")
 endif()
-set(TARVIN_FIXED_WIDTH_FONTS /usr/share/fonts/truetype/jetbrains-mono)
-if(NOT EXISTS ${TARVIN_FIXED_WIDTH_FONTS}/JetBrainsMono-Medium.ttf)
-    message(FATAL_ERROR "The fixed-width font is missing: tools/install-packages build installs fonts-jetbrains-mono.")
+find_path(TARVIN_FIXED_WIDTH_FONTS JetBrainsMono-Medium.ttf
+    PATHS /usr/share/fonts/truetype/jetbrains-mono $ENV{HOME}/Library/Fonts /Library/Fonts NO_DEFAULT_PATH
+    DOC "The folder of the fixed-width font")
+if(NOT TARVIN_FIXED_WIDTH_FONTS)
+    message(FATAL_ERROR "The fixed-width font is missing. On Debian tools/install-packages build installs "
+                        "fonts-jetbrains-mono; on macOS brew install --cask font-jetbrains-mono does.")
 endif()
 
 # tarvin_asset_resource(VAR NAME alias=file...): compiles the files, as they are, into one Qt resource below ":/NAME",
