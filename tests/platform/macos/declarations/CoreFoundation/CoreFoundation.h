@@ -21,6 +21,7 @@ typedef CFTypeRef CFPropertyListRef;
 extern "C" {
 extern const CFAllocatorRef kCFAllocatorDefault;
 extern const CFStringRef kCFRunLoopCommonModes;
+extern const CFStringRef kCFRunLoopDefaultMode;
 extern const CFBooleanRef kCFBooleanTrue;
 extern const CFBooleanRef kCFBooleanFalse;
 extern const CFStringRef kCFPreferencesAnyApplication;
@@ -39,6 +40,7 @@ CFIndex CFArrayGetCount(CFArrayRef array);
 const void* CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index);
 
 CFRunLoopRef CFRunLoopGetMain(void);
+int32_t CFRunLoopRunInMode(CFStringRef mode, double seconds, Boolean returnAfterSourceHandled);
 void CFRunLoopAddSource(CFRunLoopRef loop, CFRunLoopSourceRef source, CFStringRef mode);
 void CFRunLoopRemoveSource(CFRunLoopRef loop, CFRunLoopSourceRef source, CFStringRef mode);
 CFRunLoopSourceRef CFMachPortCreateRunLoopSource(CFAllocatorRef allocator, CFMachPortRef port, CFIndex order);
