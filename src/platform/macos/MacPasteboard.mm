@@ -27,7 +27,12 @@ void MacPasteboard::readText(TextHandler handler)
 void MacPasteboard::setText(const PasteboardText& text)
 {
     NSPasteboard* const pasteboard = NSPasteboard.generalPasteboard;
-    [pasteboard clearContents];
+    NSMutableArray<NSPasteboardType>* const types = [NSMutableArray array];
+    [types addObject:NSPasteboardTypeString];
+    if (text.isSecret)
+        [types addObject:nsString(concealedType)];
+    // Clears the content too. Nobody owns promises, because everything is handed over at once.
+    [pasteboard declareTypes:types owner:nil];
     [pasteboard setString:nsString(text.text) forType:NSPasteboardTypeString];
     if (text.isSecret)
         [pasteboard setString:@"" forType:nsString(concealedType)];

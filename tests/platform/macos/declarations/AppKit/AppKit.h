@@ -27,7 +27,6 @@ typedef NSUInteger NSWindowCollectionBehavior;
 typedef NSInteger NSWindowLevel;
 enum NSBackingStoreType : NSUInteger { NSBackingStoreBuffered = 2 };
 enum : NSWindowStyleMask { NSWindowStyleMaskNonactivatingPanel = 128 };
-static const NSWindowLevel NSFloatingWindowLevel = 3;
 enum : NSWindowCollectionBehavior {
     NSWindowCollectionBehaviorCanJoinAllSpaces = 1,
     NSWindowCollectionBehaviorFullScreenAuxiliary = 256,
@@ -181,7 +180,7 @@ extern "C" const NSPasteboardType NSPasteboardTypeString;
 @property (class, readonly) NSPasteboard* generalPasteboard;
 @property (readonly) NSInteger changeCount;
 @property (readonly, copy) NSArray<NSPasteboardType>* types;
-- (NSInteger)clearContents;
+- (NSInteger)declareTypes:(NSArray<NSPasteboardType>*)types owner:(id)owner;
 - (NSString*)stringForType:(NSPasteboardType)type;
 - (BOOL)setString:(NSString*)text forType:(NSPasteboardType)type;
 - (NSPasteboardType)availableTypeFromArray:(NSArray<NSPasteboardType>*)types;
