@@ -7,6 +7,7 @@ namespace tarvin::macos {
 
 std::optional<ScriptResult> MacScripts::run(const Script& script)
 {
+    const std::lock_guard lock(m_oneAtATime);
     @autoreleasepool {
         NSAppleScript* const source = [[NSAppleScript alloc] initWithSource:nsString(appleScriptSource(script))];
         if (!source)
