@@ -4,9 +4,15 @@
 #include "platform/macos/translation/BundleRecord.h"
 #include "platform/macos/translation/FolderPath.h"
 
+#include <mutex>
+
 namespace tarvin::macos {
 
 namespace {
+
+/// The system hands the same bundle object to everybody who asks for one path, and such an object is for one thread at
+/// a time; so are the functions that tell the user's folders.
+std::mutex bundleMutex;
 
 std::optional<QString> textOf(NSBundle* bundle, const char* key)
 {
@@ -20,7 +26,10 @@ QList<ApplicationBundle> MacApplicationFolders::contents(ApplicationFolder folde
 {
     QList<ApplicationBundle> bundles;
     @autoreleasepool {
-        const QString path = applicationFolderPath(folder, folderPath(qString(NSHomeDirectory())));
+        const QString path = [&] {
+            const std::lock_guard lock(bundleMutex);
+            return applicationFolderPath(folder, folderPath(qString(NSHomeDirectory())));
+        }();
         NSArray<NSString*>* const names = [NSFileManager.defaultManager contentsOfDirectoryAtPath:nsString(path)
                                                                                             error:nil];
         for (NSString* name in names) {
@@ -35,6 +44,7 @@ std::optional<ApplicationBundle> MacApplicationFolders::bundleAt(const QString& 
 {
     if (!isApplicationPath(path))
         return std::nullopt;
+    const std::lock_guard lock(bundleMutex);
     @autoreleasepool {
         NSBundle* const bundle = [NSBundle bundleWithPath:nsString(path)];
         if (!bundle)
