@@ -15,7 +15,8 @@ namespace tarvin::macos {
 
 /// One element of another application, as the Accessibility interface shows it; owns its reference. Every reading is
 /// nothing, and every writing false, where the element has gone, lacks the attribute, holds another kind of value, or
-/// the program lacks the permission. Main thread only; each call may wait for the other application.
+/// the program lacks the permission. Main thread only; each call may wait for the other application, for two seconds at
+/// most.
 class AccessibilityElement
 {
 public:

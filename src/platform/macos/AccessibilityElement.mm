@@ -17,6 +17,16 @@ template <typename Structure> std::optional<Structure> unboxed(CFTypeRef value, 
     return isRead ? std::optional(structure) : std::nullopt;
 }
 
+/// Bounds what a hung application can cost: every call waits for the other side, and nothing else happens meanwhile on
+/// the thread that decides about keys. Long enough for a window on its way to the full screen, whose answer comes late.
+void boundWaiting()
+{
+    constexpr float seconds = 2;
+    const CfHandle everything(AXUIElementCreateSystemWide());
+    if (everything)
+        (void)AXUIElementSetMessagingTimeout(everything.get(), seconds);
+}
+
 } // namespace
 
 AccessibilityElement::AccessibilityElement(CfHandle<AXUIElementRef> element)
@@ -25,6 +35,8 @@ AccessibilityElement::AccessibilityElement(CfHandle<AXUIElementRef> element)
 
 AccessibilityElement AccessibilityElement::ofApplication(ProcessIdentifier process)
 {
+    static const bool isBounded = (boundWaiting(), true);
+    (void)isBounded;
     return AccessibilityElement(CfHandle(AXUIElementCreateApplication(process)));
 }
 
