@@ -12,7 +12,6 @@
 namespace tarvin::macos {
 
 static_assert(NSWindowStyleMaskNonactivatingPanel == PanelStyle{}.styleMask);
-static_assert(NSFloatingWindowLevel == PanelStyle{}.level);
 
 MacFloatingPanel::MacFloatingPanel(
     PanelWindow& view, const PanelTraits& traits, MacAppShell& shell, std::function<void()> onCloseRequested)
