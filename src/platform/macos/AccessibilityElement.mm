@@ -7,6 +7,8 @@
 
 namespace tarvin::macos {
 
+static_assert(succeeded(kAXErrorSuccess));
+
 namespace {
 
 /// Reads a boxed structure. The value is borrowed.

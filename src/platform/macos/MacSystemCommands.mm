@@ -6,6 +6,8 @@
 
 namespace tarvin::macos {
 
+static_assert(NSAppleEventSendNoReply == LoginWindowEvent{}.sendOptions);
+
 void MacSystemCommands::run(const SystemCommand& command)
 {
     (void)startTool(toolLaunch(command));

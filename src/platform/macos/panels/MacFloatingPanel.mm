@@ -12,6 +12,8 @@
 namespace tarvin::macos {
 
 static_assert(NSWindowStyleMaskNonactivatingPanel == PanelStyle{}.styleMask);
+static_assert((NSWindowCollectionBehaviorCanJoinAllSpaces | NSWindowCollectionBehaviorFullScreenAuxiliary)
+    == panelStyleOf({.spaces = PanelSpaces::all}).collectionBehavior);
 
 MacFloatingPanel::MacFloatingPanel(
     PanelWindow& view, const PanelTraits& traits, MacAppShell& shell, std::function<void()> onCloseRequested)

@@ -17,6 +17,10 @@
 
 namespace tarvin::macos {
 
+static_assert(NSApplicationActivationPolicyRegular == static_cast<NSInteger>(ActivationPolicy::regular));
+static_assert(NSApplicationActivationPolicyAccessory == static_cast<NSInteger>(ActivationPolicy::accessory));
+static_assert(NSApplicationActivationPolicyProhibited == static_cast<NSInteger>(ActivationPolicy::prohibited));
+
 /// What the shell hears from the system. AppKit posts its notifications on the main thread.
 struct MacAppShell::Native
 {

@@ -25,7 +25,6 @@
 typedef NSUInteger NSWindowStyleMask;
 typedef NSUInteger NSWindowCollectionBehavior;
 typedef NSInteger NSWindowLevel;
-enum NSBackingStoreType : NSUInteger { NSBackingStoreBuffered = 2 };
 enum : NSWindowStyleMask { NSWindowStyleMaskNonactivatingPanel = 128 };
 enum : NSWindowCollectionBehavior {
     NSWindowCollectionBehaviorCanJoinAllSpaces = 1,
@@ -34,19 +33,11 @@ enum : NSWindowCollectionBehavior {
 
 @interface NSView : NSResponder
 @property (readonly, assign) NSWindow* window;
-@property NSRect frame;
 @end
 
 @interface NSWindow : NSResponder
-- (instancetype)initWithContentRect:(NSRect)contentRect
-                          styleMask:(NSWindowStyleMask)style
-                            backing:(NSBackingStoreType)backing
-                              defer:(BOOL)defer;
-@property (copy) NSString* title;
-@property (readonly) NSRect frame;
 @property (readonly, getter=isVisible) BOOL visible;
 @property (readonly, getter=isMiniaturized) BOOL miniaturized;
-@property (readonly, getter=isKeyWindow) BOOL keyWindow;
 @property CGFloat alphaValue;
 @property NSWindowLevel level;
 @property NSWindowStyleMask styleMask;
@@ -55,9 +46,6 @@ enum : NSWindowCollectionBehavior {
 @property (getter=isOpaque) BOOL opaque;
 @property BOOL hasShadow;
 @property BOOL hidesOnDeactivate;
-@property (strong) NSView* contentView;
-- (void)setIsVisible:(BOOL)visible;
-- (void)setFrame:(NSRect)frame display:(BOOL)display;
 - (void)makeKeyAndOrderFront:(id)sender;
 - (void)orderFrontRegardless;
 - (void)orderOut:(id)sender;
@@ -94,7 +82,6 @@ enum : NSUInteger { NSApplicationActivateAllWindows = 1 };
 @end
 
 extern "C" {
-extern NSApplication* NSApp;
 extern const NSNotificationName NSApplicationDidBecomeActiveNotification;
 extern const NSNotificationName NSApplicationDidFinishLaunchingNotification;
 extern const NSNotificationName NSApplicationWillFinishLaunchingNotification;
@@ -179,7 +166,6 @@ extern "C" const NSPasteboardType NSPasteboardTypeString;
 @interface NSPasteboard : NSObject
 @property (class, readonly) NSPasteboard* generalPasteboard;
 @property (readonly) NSInteger changeCount;
-@property (readonly, copy) NSArray<NSPasteboardType>* types;
 - (NSInteger)declareTypes:(NSArray<NSPasteboardType>*)types owner:(id)owner;
 - (NSString*)stringForType:(NSPasteboardType)type;
 - (BOOL)setString:(NSString*)text forType:(NSPasteboardType)type;

@@ -6,7 +6,6 @@
 typedef unsigned char Boolean;
 typedef signed long CFIndex;
 typedef unsigned long CFTypeID;
-typedef uint32_t CFStringEncoding;
 typedef const void* CFTypeRef;
 typedef const struct __attribute__((objc_bridge(NSString))) __CFString* CFStringRef;
 typedef const struct __attribute__((objc_bridge(NSArray))) __CFArray* CFArrayRef;

@@ -30,10 +30,6 @@ static inline CGSize CGSizeMake(CGFloat width, CGFloat height)
 {
     return {width, height};
 }
-static inline CGRect CGRectMake(CGFloat x, CGFloat y, CGFloat width, CGFloat height)
-{
-    return {{x, y}, {width, height}};
-}
 
 typedef struct __CGEvent* CGEventRef;
 typedef struct __CGEventSource* CGEventSourceRef;
@@ -71,7 +67,6 @@ CGEventFlags CGEventGetFlags(CGEventRef event);
 void CGEventSetFlags(CGEventRef event, CGEventFlags flags);
 int64_t CGEventGetIntegerValueField(CGEventRef event, CGEventField field);
 void CGEventSetIntegerValueField(CGEventRef event, CGEventField field, int64_t value);
-CGEventType CGEventGetType(CGEventRef event);
 CGEventSourceRef CGEventSourceCreate(CGEventSourceStateID state);
 CGEventRef CGEventCreateKeyboardEvent(CGEventSourceRef source, CGKeyCode key, bool isDown);
 CGEventRef CGEventCreateMouseEvent(CGEventSourceRef source, CGEventType type, CGPoint position, CGMouseButton button);

@@ -19,10 +19,6 @@ typedef CGRect NSRect;
 typedef NSString* NSNotificationName;
 typedef NSString* NSRunLoopMode;
 
-static inline NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat width, CGFloat height)
-{
-    return CGRectMake(x, y, width, height);
-}
 static inline NSPoint NSMakePoint(CGFloat x, CGFloat y)
 {
     return CGPointMake(x, y);
@@ -73,7 +69,6 @@ static inline NSRange NSMakeRange(NSUInteger location, NSUInteger length)
 @property (readonly) BOOL boolValue;
 @property (readonly) double doubleValue;
 @property (readonly) long long longLongValue;
-@property (readonly) int intValue;
 @end
 
 @interface NSArray<__covariant ObjectType> : NSObject
@@ -109,7 +104,6 @@ static inline NSRange NSMakeRange(NSUInteger location, NSUInteger length)
 + (instancetype)URLWithString:(NSString*)text;
 + (NSURL*)fileURLWithPath:(NSString*)path;
 @property (readonly, copy) NSString* path;
-@property (readonly, copy) NSString* absoluteString;
 @end
 
 @interface NSBundle : NSObject
@@ -192,8 +186,6 @@ extern "C" const NSRunLoopMode NSRunLoopCommonModes;
 @property (class, readonly) NSUserDefaults* standardUserDefaults;
 - (id)objectForKey:(NSString*)key;
 - (void)setObject:(id)value forKey:(NSString*)key;
-- (void)setBool:(BOOL)value forKey:(NSString*)key;
-- (void)setDouble:(double)value forKey:(NSString*)key;
 - (void)removeObjectForKey:(NSString*)key;
 @end
 
@@ -210,7 +202,6 @@ extern "C" const NSRunLoopMode NSRunLoopCommonModes;
 @interface NSTask : NSObject
 @property (copy) NSURL* executableURL;
 @property (copy) NSArray<NSString*>* arguments;
-@property (strong) id standardInput;
 @property (strong) id standardOutput;
 @property (strong) id standardError;
 - (BOOL)launchAndReturnError:(NSError**)error;

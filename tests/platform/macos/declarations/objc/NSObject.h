@@ -18,7 +18,6 @@ typedef void (*IMP)(void);
 @class NSString;
 
 @protocol NSObject
-- (BOOL)respondsToSelector:(SEL)selector;
 - (BOOL)isKindOfClass:(Class)kind;
 @end
 
