@@ -174,6 +174,16 @@ class MacosPlatform(Checked):
         self.assertEqual(code, 1)
         self.assertIn("systemUpTime", said)
 
+    def test_every_file_that_is_read_here_is_built_on_a_mac(self):
+        root = TOOLS.parent
+        listed = subprocess.run([sys.executable, TOOLS / "check-macos", "--list"], capture_output=True, text=True).stdout.split()
+        self.assertIn("src/app/MacProgram.cpp", listed)
+        self.assertEqual(sorted(name for name in listed if name.endswith(".mm")),
+                         sorted(file.relative_to(root).as_posix() for file in root.glob("src/**/*.mm")))
+        for name in listed:
+            built = (root / name).parent / "CMakeLists.txt"
+            self.assertRegex(built.read_text(), rf"[\s ]{pathlib.Path(name).name}\b", name)
+
     def test_a_value_of_the_wrong_type_is_found(self):
         code, said = self.found_in("    NSString* text = [NSProcessInfo processInfo];\n    (void)text;")
         self.assertEqual(code, 1)
