@@ -45,7 +45,9 @@ public:
     ResidentProgram()
         : m_panels(m_desktop.panelSurroundings())
         , m_objects(m_desktop.ports(), m_panels)
-        , m_commands(m_objects, ControlPaths::fromEnvironment().control, [] { return QJsonObject(); })
+        // The taps decide by the set of keys as it is: there is nothing to wait for.
+        , m_commands(m_objects, ControlPaths::fromEnvironment().control, {.settleKeys = [] {}})
+        , m_editors(m_desktop.ports(), m_objects)
     { }
 
     /// Until somebody asks the program to end.
@@ -77,7 +79,8 @@ private:
 
     void makeStudio()
     {
-        m_studioWindow = makeStudioWindow(m_objects, [this] { m_desktop.workspace.openUrl(keyboardSettings); });
+        m_studioWindow = makeStudioWindow(
+            m_objects, m_editors.surfaces(), [this] { m_desktop.workspace.openUrl(keyboardSettings); });
         AppWindow& window = m_desktop.shell.addWindow(*m_studioWindow, macos::AppWindowKind::ordinary);
         m_objects.backgroundModeManager().setMainWindow(&window);
         window.makeKeyAndOrderFront();
@@ -88,6 +91,7 @@ private:
     DrawnToolPanels m_panels;
     SharedObjects m_objects;
     ProgramCommands m_commands;
+    StudioEditors m_editors;
     std::optional<MenuBarItem> m_menuBarItem;
 };
 

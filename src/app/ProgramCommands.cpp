@@ -75,14 +75,16 @@ QJsonObject ProgramCommands::status() const
     for (const FKey key : profile.customKeys())
         keys.append(rawValue(key).toString());
     EventTapManager& taps = m_objects.eventTapManager();
-    return {{QStringLiteral("process"), static_cast<qint64>(QCoreApplication::applicationPid())},
+    QJsonObject fields{{QStringLiteral("process"), static_cast<qint64>(QCoreApplication::applicationPid())},
         {QStringLiteral("engineRunning"), taps.isRunning()},
         {QStringLiteral("hasPermission"), taps.hasAccessibilityPermission()},
         {QStringLiteral("currentProfile"), profile.currentProfile().id},
         {QStringLiteral("frontApplication"), profile.cachedFrontmostBundleId().value_or(QString())},
         {QStringLiteral("customKeys"), keys},
-        {QStringLiteral("installedApplications"), m_surroundings.installedApplications()},
         {QStringLiteral("testSafeMode"), m_objects.testEnvironment().cause().value_or(QString())}};
+    if (m_surroundings.installedApplications)
+        fields.insert(QStringLiteral("installedApplications"), m_surroundings.installedApplications());
+    return fields;
 }
 
 CommandService& ProgramCommands::service()

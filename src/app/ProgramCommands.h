@@ -21,7 +21,7 @@ public:
     struct Surroundings
     {
         std::function<void()> settleKeys; ///< returns when the keys that are customised now are taken from the session
-        std::function<qint64()> installedApplications; ///< how many are known
+        std::function<qint64()> installedApplications{}; ///< how many are known; empty where nobody counts them
     };
 
     /// Listens from now on; what comes waits for the event loop. An answer goes out when what it tells is in force: a

@@ -31,7 +31,7 @@ class Picker(AccessibleSession):
         self.desktop.ask("xdotool", "key", name)
 
     def close_window(self):
-        self.desktop.ask("xdotool", "getactivewindow", "key", "alt+F4")
+        self.desktop.ask("wmctrl", "-ic", self.desktop.active_window().decode())
         until("no window", lambda: b"IsViewable" not in self.desktop.ask(
             "xwininfo", "-name", "Tarvin — MacBook Air Keyboard Studio"))
 
@@ -55,6 +55,7 @@ class Picker(AccessibleSession):
                          "that key and no other")
         self.close_window()
         terminal.come_to_front()
+        self.settle()
         self.press("+f5 40ms -f5")
         self.desktop.until_in_front("Clipboard History")
         self.assertEqual(self.fired(1), ["F5: Clipboard History"])
@@ -71,6 +72,7 @@ class Picker(AccessibleSession):
         until("the stored mapping gone", lambda: list(self.stored()["global"]) == ["F6"])
         self.assertNotIn("enabled", self.states("Reset to Apple default"))
         terminal.come_to_front()
+        self.settle()
         self.press("+f5 40ms -f5")
         self.assertEqual(terminal.keys_pressed(1), ["F5"])
 
