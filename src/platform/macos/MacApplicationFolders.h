@@ -10,6 +10,8 @@ class MacApplicationFolders final : public ApplicationFolders
 public:
     [[nodiscard]] QList<ApplicationBundle> contents(ApplicationFolder folder) const override;
     [[nodiscard]] std::optional<ApplicationBundle> bundleAt(const QString& path) const override;
+    /// What the bundle names as its icon. A bundle whose icon is only in its asset catalogue has none here.
+    [[nodiscard]] QStringList pictureFiles(const QString& icon, int pixels) const override;
     [[nodiscard]] ApplicationBrowsing browsing() const override;
 };
 

@@ -58,6 +58,16 @@ std::optional<ApplicationBundle> MacApplicationFolders::bundleAt(const QString& 
     }
 }
 
+QStringList MacApplicationFolders::pictureFiles(const QString& icon, int) const
+{
+    const std::lock_guard lock(bundleMutex);
+    @autoreleasepool {
+        NSBundle* const bundle = [NSBundle bundleWithPath:nsString(icon)];
+        const std::optional<QString> name = bundle ? textOf(bundle, bundleIconKey) : std::nullopt;
+        return name && !name->isEmpty() ? QStringList(iconFilePath(icon, *name)) : QStringList();
+    }
+}
+
 ApplicationBrowsing MacApplicationFolders::browsing() const
 {
     return {.startFolder = applicationFolderPath(ApplicationFolder::applications, {}),

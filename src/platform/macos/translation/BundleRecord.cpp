@@ -34,4 +34,10 @@ ApplicationBundle applicationBundleOf(const BundleRecord& record)
         .icon = record.path};
 }
 
+QString iconFilePath(const QString& bundlePath, const QString& iconName)
+{
+    const QString path = bundlePath + QStringLiteral("/Contents/Resources/") + iconName;
+    return iconName.contains(u'.') ? path : path + QStringLiteral(".icns");
+}
+
 } // namespace tarvin::macos

@@ -20,6 +20,7 @@ struct BundleRecord
 /// The keys under which it says so.
 inline constexpr const char* bundleDisplayNameKey = "CFBundleDisplayName";
 inline constexpr const char* bundleNameKey = "CFBundleName";
+inline constexpr const char* bundleIconKey = "CFBundleIconFile";
 
 /// How the names of application bundles end, without the dot.
 inline constexpr QStringView applicationSuffix = u"app";
@@ -32,5 +33,9 @@ inline constexpr QStringView applicationSuffix = u"app";
 
 /// The icon is that of the bundle itself.
 [[nodiscard]] ApplicationBundle applicationBundleOf(const BundleRecord& record);
+
+/// The file of a bundle's icon.
+/// @param iconName as the bundle has it; the suffix may be left out there
+[[nodiscard]] QString iconFilePath(const QString& bundlePath, const QString& iconName);
 
 } // namespace tarvin::macos

@@ -44,6 +44,14 @@ TEST(BundleRecord, theIconIsThatOfTheBundleAndNothingIsMadeUp)
             .icon = u"/Applications/Safari.app"_qs}));
 }
 
+TEST(BundleRecord, theIconsFileMayBeNamedWithoutItsSuffix)
+{
+    EXPECT_EQ(
+        iconFilePath(u"/Applications/Mail.app"_qs, u"mail"_qs), u"/Applications/Mail.app/Contents/Resources/mail.icns");
+    EXPECT_EQ(iconFilePath(u"/Applications/Mail.app"_qs, u"mail.icns"_qs),
+        u"/Applications/Mail.app/Contents/Resources/mail.icns");
+}
+
 TEST(FolderPath, hasNoSlashAtItsEnd)
 {
     EXPECT_EQ(folderPath(u"/Users/velmor/"_qs), u"/Users/velmor");
