@@ -23,24 +23,27 @@ constexpr double signSpace = 0.06;
 
 struct Sign
 {
-    char16_t character;
+    QStringView text;
     Symbol symbol;
 };
 constexpr auto signs = std::to_array<Sign>({
-    {u'⌘', Symbol(u"command")},
-    {u'⌥', Symbol(u"option")},
-    {u'⇧', Symbol(u"shift")},
-    {u'⌃', Symbol(u"control")},
-    {u'➔', Symbol(u"arrow.right")},
+    {u"⌘", Symbol(u"command")},
+    {u"⌥", Symbol(u"option")},
+    {u"⇧", Symbol(u"shift")},
+    {u"⌃", Symbol(u"control")},
+    {u"⇪", Symbol(u"capslock.fill")},
+    {u"🌐", Symbol(u"globe")},
+    {u"➔", Symbol(u"arrow.right")},
 });
 
-std::optional<Symbol> symbolOfSign(QChar character)
+/// The sign that the text begins with; null for any other.
+const Sign* signAtFront(QStringView text)
 {
     for (const Sign& sign : signs) {
-        if (character == QChar(sign.character))
-            return sign.symbol;
+        if (text.startsWith(sign.text))
+            return &sign;
     }
-    return std::nullopt;
+    return nullptr;
 }
 
 struct Piece
@@ -66,15 +69,19 @@ std::vector<Piece> piecesOf(const QString& text, const TextStyle& style)
                 {.text = run, .symbol = std::nullopt, .width = metrics.horizontalAdvance(run) * scaleOf(style)});
         run.clear();
     };
-    for (const QChar character : text) {
-        const auto symbol = style.face == TextFace::rounded ? symbolOfSign(character) : std::nullopt;
-        if (!symbol) {
-            run += character;
+    qsizetype place = 0;
+    while (place < text.size()) {
+        const Sign* const sign =
+            style.face == TextFace::rounded ? signAtFront(QStringView(text).sliced(place)) : nullptr;
+        if (!sign) {
+            run += text[place];
+            ++place;
             continue;
         }
         endRun();
         pieces.push_back(
-            {.text = {}, .symbol = symbol, .width = style.size * (signSize * symbolBoxPerSize + 2 * signSpace)});
+            {.text = {}, .symbol = sign->symbol, .width = style.size * (signSize * symbolBoxPerSize + 2 * signSpace)});
+        place += sign->text.size();
     }
     endRun();
     return pieces;

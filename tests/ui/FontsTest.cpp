@@ -80,7 +80,8 @@ TEST(TextLine, theSignsOfModifierKeysAreDrawnAsSymbols)
             light += canvas.lightAt(x, y);
     }
     EXPECT_GT(light, 40);
-    EXPECT_NEAR(textWidth(QStringLiteral("⌘"), style), 21.6, 0.01);
+    for (const QString& sign : {QStringLiteral("⌘"), QStringLiteral("⇪"), QStringLiteral("🌐")})
+        EXPECT_NEAR(textWidth(sign, style), 21.6, 0.01) << sign.toStdString();
 }
 
 } // namespace tarvin

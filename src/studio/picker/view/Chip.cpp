@@ -5,6 +5,7 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace tarvin {
@@ -36,11 +37,26 @@ void Chip::setTip(const QString& tip)
     m_label->setAccessibleDescription(tip);
 }
 
-QSize Chip::sizeHint() const
+void Chip::setElided()
 {
-    const QSize label = m_label->sizeHint();
+    m_label->setElided(true);
+    setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+}
+
+QSize Chip::around(const QSize& label) const
+{
     return {static_cast<int>(std::ceil(label.width() + 2 * m_look.insetX)),
         static_cast<int>(std::lround(label.height() + 2 * m_look.insetY))};
+}
+
+QSize Chip::sizeHint() const
+{
+    return around(m_label->sizeHint());
+}
+
+QSize Chip::minimumSizeHint() const
+{
+    return around(m_label->minimumSizeHint());
 }
 
 void Chip::paintEvent(QPaintEvent* /*event*/)
@@ -52,8 +68,9 @@ void Chip::paintEvent(QPaintEvent* /*event*/)
 void Chip::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    const QSize label = m_label->sizeHint();
-    m_label->setGeometry((width() - label.width()) / 2, (height() - label.height()) / 2, label.width(), label.height());
+    const int room = static_cast<int>(std::floor(width() - 2 * m_look.insetX));
+    const QSize label(std::min(m_label->sizeHint().width(), std::max(room, 0)), m_label->sizeHint().height());
+    m_label->setGeometry(QRect(QPoint((width() - label.width()) / 2, (height() - label.height()) / 2), label));
 }
 
 } // namespace tarvin

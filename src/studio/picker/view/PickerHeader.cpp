@@ -66,13 +66,15 @@ PickerHeader::PickerHeader(FKey key, QWidget* parent)
     m_paused->setTip(pausedTooltip.toString());
     m_close->setSymbol(Symbol(u"xmark"));
     m_close->setTip(tr("Close"));
+    auto* const keyChip = new Chip(keyPill(key), this);
+    keyChip->setElided();
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(pickermetrics::sideInset, 0, pickermetrics::sideInset, 0);
     row->setSpacing(spacing);
     row->addWidget(new TextLabel(pickerTitle.toString(), titleText, white, this));
     row->addWidget(m_paused);
     row->addStretch();
-    row->addWidget(new Chip(keyPill(key), this));
+    row->addWidget(keyChip);
     row->addWidget(m_close);
 }
 

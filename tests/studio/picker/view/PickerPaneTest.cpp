@@ -1,3 +1,4 @@
+#include "studio/picker/view/PickerHeader.h"
 #include "studio/picker/view/PickerScene.h"
 #include "studio/picker/view/StatusBannerView.h"
 #include "ui/OutlinedButton.h"
@@ -64,6 +65,22 @@ TEST_F(PickerPane, aPausedKeyOfTheOthersSaysSo)
     profile().setOtherKeysEnabled(false);
     view(FKey::capsLock);
     EXPECT_THAT(texts(), Contains(u"Other Off"_qs));
+}
+
+TEST_F(PickerPane, theHeaderHoldsTheLongestNameBesideAPausedChip)
+{
+    profile().setOtherKeysEnabled(false);
+    view(FKey::fnGlobe);
+    const auto parts = view().header().children();
+    for (const QObject* const part : parts) {
+        const auto* const widget = qobject_cast<const QWidget*>(part);
+        if (!widget || !widget->isVisible())
+            continue;
+        EXPECT_TRUE(view().header().rect().contains(widget->geometry()));
+        EXPECT_GE(widget->height(), 12);
+    }
+    EXPECT_THAT(texts(), Contains(displayName(FKey::fnGlobe).toString()));
+    EXPECT_EQ(view().header().closeButton().geometry().right(), 330 - 18 - 1);
 }
 
 TEST_F(PickerPane, theBannerHasItsThreeTones)
