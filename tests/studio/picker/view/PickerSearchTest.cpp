@@ -35,6 +35,7 @@ TEST_F(PickerSearch, aSearchTakesThePlaceOfTheSections)
     EXPECT_EQ(shown(results()), actionsOf(picker().searchResults()));
     EXPECT_EQ(shown(results()).first(), KeyAction::mute);
     EXPECT_THAT(texts(), Contains(u"SEARCH RESULTS"_qs));
+    EXPECT_THAT(texts(), Not(Contains(u"No actions found"_qs)));
     EXPECT_THAT(texts(), Contains(u"%1 found"_qs.arg(picker().searchResults().size())));
     search({});
     EXPECT_TRUE(section(PickerSection::recommended).isVisible());
