@@ -60,7 +60,12 @@ def place(application, name):
     return None
 
 
-METHODS = {"everything": everything, "press": press, "place": place}
+def focus(application, name):
+    """Gives the keyboard to the first object of that name that takes it."""
+    return any(thing.get_name() == name and thing.get_component_iface().grab_focus() for thing in objects(application))
+
+
+METHODS = {"everything": everything, "press": press, "place": place, "focus": focus}
 
 Atspi.init()
 for line in sys.stdin:
