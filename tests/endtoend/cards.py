@@ -95,6 +95,20 @@ class Cards(AccessibleSession):
         self.press_control("3 Keys (A + B + C)")
         until("the preset stored", lambda: [key["keyDisplay"] for key in self.record()["customShortcuts"]] == ["A", "B", "C"])
 
+    def test_the_key_that_begins_a_recording_is_not_recorded(self):
+        self.open_card("Keyboard shortcut")
+        self.until_there("Record sequence")
+        self.assertIs(self.ask("focus", "Tarvin", "Record sequence"), True)
+        until("the button focused", lambda: any(
+            thing["name"] == "Record sequence" and "focused" in thing["states"] for thing in self.objects()))
+        self.press("+return 1200ms -return")  # held until it repeats
+        self.until_there(re.escape("Press keys on keyboard sequentially..."))
+        self.press_and_wait("+g 1200ms -g", "Key 1: G")
+        self.press_and_wait("+return 40ms -return", "Key 2: RETURN")
+        self.press_control("Done")
+        self.until_not_recording()
+        self.assertEqual([key["keyDisplay"] for key in self.record()["customShortcuts"]], ["G", "Return"])
+
     def test_every_way_out_of_a_recording_gives_the_keyboard_back(self):
         editor = Application(self.desktop, "editor")
         process = self.open_card("Keyboard shortcut")
