@@ -12,6 +12,7 @@
 
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QVBoxLayout>
 
 namespace tarvin {
 
@@ -19,6 +20,7 @@ namespace {
 
 constexpr int rowHeight = 28;
 constexpr int rowSpacing = 5;
+constexpr int addingGap = 3; // more than between rows
 constexpr Motion changeMotion = Motion::spring(0.25, 0.8);
 constexpr double rowRadius = 6;
 constexpr double inset = 8;
@@ -119,7 +121,10 @@ ActionChainBody::ActionChainBody(const KeyRecord& record, UuidGenerator& uuids, 
         adding->addWidget(button);
     }
     m_column->setContentsMargins(0, 4, 0, 2);
-    m_column->addLayout(adding);
+    auto* const below = new QVBoxLayout;
+    below->setContentsMargins(0, addingGap, 0, 0);
+    below->addLayout(adding);
+    m_column->addLayout(below);
     followRecord(*this, m_record, &ActionChainBody::refresh);
 }
 
