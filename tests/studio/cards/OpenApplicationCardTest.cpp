@@ -126,6 +126,24 @@ TEST_F(OpenApplication, theIconIsThatOfThePathOrOfTheIdentifier)
     EXPECT_EQ(card.resolvedAppPath(), u"/Applications/Paint.app");
 }
 
+TEST_F(OpenApplication, theIconIsKnownFromTheListOrReadWhereTheApplicationLies)
+{
+    EXPECT_EQ(card.resolvedAppIcon(), u"");
+    folders.install(ApplicationFolder::applications,
+        {.path = u"/Applications/Draw.app"_qs, .bundleIdentifier = u"org.example.draw"_qs, .icon = u"pencil"_qs});
+    desktop.applicationControl().install(
+        {.path = u"/Applications/Draw.app"_qs, .name = u"Draw"_qs, .bundleIdentifiers = {u"org.example.draw"_qs}});
+    card.chooseFile(u"/Applications/Draw.app"_qs);
+    EXPECT_EQ(card.resolvedAppIcon(), u"pencil") << "without the list";
+    load();
+    EXPECT_EQ(card.resolvedAppIcon(), u"pencil");
+    record.change([](ConfiguredAction& config) {
+        config.customAppPath = u"/Applications/Gone.app"_qs;
+        config.customAppBundleId = u"org.example.gone"_qs;
+    });
+    EXPECT_EQ(card.resolvedAppIcon(), u"") << "not installed any more";
+}
+
 TEST_F(OpenApplication, aScanMayOutliveTheCard)
 {
     auto gone =

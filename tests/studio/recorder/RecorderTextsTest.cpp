@@ -31,6 +31,13 @@ TEST(RecorderTexts, theChipsOfARowStandInTheirOwnOrder)
     EXPECT_EQ(keyChip(CustomShortcut{}), u"?");
 }
 
+TEST(RecorderTexts, aRowIsReadOutWithItsModifiersAndItsKey)
+{
+    EXPECT_EQ(recorder_texts::rowName(1, {.command = true, .control = true, .keyDisplay = u"Page Up"_qs}),
+        u"Key 2: ⌃ ⌘ PAGE UP");
+    EXPECT_EQ(recorder_texts::rowName(0, {}), u"Key 1: ?");
+}
+
 } // namespace
 
 } // namespace tarvin::recorder_texts
