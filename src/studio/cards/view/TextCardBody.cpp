@@ -47,7 +47,7 @@ void TextCardBody::refresh()
 
 void TextCardBody::store(const QString& text)
 {
-    // What the field makes of a text with several lines is not what the user wrote.
+    // To show a text is no edit: a missing one stays missing.
     if (!m_isRefreshing)
         setFieldText(m_card, m_record, text);
 }
