@@ -94,6 +94,13 @@ class Picker(AccessibleSession):
         self.until_state("F5, customised: Calculator", "focused")
         self.assertNotIn("selected", self.states("F5, customised: Calculator"))
 
+    def test_the_program_ends_while_the_pane_is_open(self):
+        process = self.open_studio()
+        self.select("F5, customisable: Dictation")
+        self.press_control("Keyboard shortcut")
+        self.until_there("F5, customised: Keyboard shortcut")
+        self.assertEqual(self.desktop.end(process), 0)
+
     def test_a_section_folds_for_assistive_technology(self):
         self.open_studio()
         self.select("F5, customisable: Dictation")
