@@ -7,6 +7,16 @@
 
 namespace tarvin {
 
+QPixmap CrossFade::pictureOf(QWidget& widget)
+{
+    const double scale = widget.devicePixelRatioF();
+    QPixmap picture(widget.size() * scale);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    widget.render(&picture, {}, {}, QWidget::DrawChildren);
+    return picture;
+}
+
 void CrossFade::play(QWidget& over, const QRect& where, Change change, const Motion& motion)
 {
     auto* const fade = new CrossFade(over, std::move(change)); // the widget owns it

@@ -23,6 +23,8 @@ public:
         Colour ground; ///< behind both
     };
 
+    /// What the widget shows, without a ground of its own.
+    [[nodiscard]] static QPixmap pictureOf(QWidget& widget);
     /// Plays the change over that part of the widget.
     static void play(QWidget& over, const QRect& where, Change change, const Motion& motion);
 

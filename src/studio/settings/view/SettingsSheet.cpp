@@ -5,6 +5,7 @@
 #include "studio/settings/view/KeyboardFlexibilitySection.h"
 #include "studio/settings/view/SettingsColours.h"
 #include "studio/settings/view/SettingsTabBar.h"
+#include "studio/settings/view/SettingsTabButton.h"
 #include "studio/settings/view/StartupSection.h"
 #include "ui/OutlinedButton.h"
 #include "ui/OverlayScrollBar.h"
@@ -174,14 +175,18 @@ void SettingsSheet::showTab(SettingsTab tab)
     QScrollArea& old = *m_areas[static_cast<std::size_t>(before)];
     QScrollArea& next = *m_areas[static_cast<std::size_t>(tab)];
     const bool isMoving = isVisible();
-    const QPixmap oldPicture = isMoving ? old.grab() : QPixmap();
+    const QPixmap oldPicture = isMoving ? CrossFade::pictureOf(old) : QPixmap();
+    // What has the keyboard goes with its section.
+    const bool hadKeyboard = old.isAncestorOf(window()->focusWidget());
     m_model->selectTab(tab);
+    if (hadKeyboard)
+        m_tabs->button(tab).setFocus(Qt::OtherFocusReason);
     old.hide();
     next.show();
     if (isMoving)
         CrossFade::play(*this, next.geometry(),
             {.before = oldPicture,
-                .after = next.grab(),
+                .after = CrossFade::pictureOf(next),
                 .way = tab > before ? sectionWay : -sectionWay,
                 .ground = settingscolours::body},
             tabMotion);

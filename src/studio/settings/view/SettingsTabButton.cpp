@@ -86,6 +86,8 @@ void SettingsTabButton::setSelected(bool selected)
         QAccessibleStateChangeEvent event(this, changed);
         QAccessible::updateAccessibility(&event);
     }
+    // The chosen one is where Tab leads; the arrows lead from there to the others.
+    setFocusPolicy(selected ? Qt::TabFocus : Qt::NoFocus);
     if (isVisible())
         m_selection.animateTo(selected ? 1 : 0, selectionMotion);
     else

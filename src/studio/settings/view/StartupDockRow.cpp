@@ -51,6 +51,8 @@ StartupDockRow::StartupDockRow(StartupDockMode mode, QWidget* parent)
 void StartupDockRow::setSelected(bool selected)
 {
     setChecked(selected);
+    // The chosen one is where Tab leads; the arrows lead from there to the others.
+    setFocusPolicy(selected ? Qt::TabFocus : Qt::NoFocus);
     if (isVisible())
         m_selection.animateTo(selected ? 1 : 0, selectionMotion);
     else

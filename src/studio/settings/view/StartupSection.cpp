@@ -76,13 +76,13 @@ void StartupSection::showDockBehavior(bool isShown)
     QPixmap before;
     QPixmap after;
     if (isMoving && !isShown)
-        before = m_dockBehavior->grab();
+        before = CrossFade::pictureOf(*m_dockBehavior);
     m_dockBehavior->setVisible(isShown);
     if (!isMoving)
         return;
     if (isShown) {
         layout()->activate();
-        after = m_dockBehavior->grab();
+        after = CrossFade::pictureOf(*m_dockBehavior);
     }
     CrossFade::play(*this, m_dockBehavior->geometry(),
         {.before = before, .after = after, .way = isShown ? wayIn : -wayIn, .ground = settingscolours::body},

@@ -2,6 +2,7 @@
 
 #include "app/core/StudioEditing.h"
 #include "shell/BackgroundModeManager.h"
+#include "studio/settings/view/CrossFade.h"
 #include "studio/settings/view/KeyboardFlexibilitySection.h"
 #include "studio/settings/view/SettingsCard.h"
 #include "studio/settings/view/SettingsTabBar.h"
@@ -102,6 +103,16 @@ TEST_F(SettingsSheetView, theSecondTabHasItsOwnHeaderAndSection)
     EXPECT_EQ(accessible(*sheet).text(QAccessible::Name), u"Background & Startup Settings");
     sheet->tabs().button(SettingsTab::keyboardFlexibility).click();
     EXPECT_TRUE(sheet->keyboardFlexibility().isVisible());
+}
+
+TEST_F(SettingsSheetView, theChangeOfATabIsPlayedAndEndsByItself)
+{
+    openSecondTab();
+    EXPECT_EQ(sheet->findChildren<CrossFade*>().size(), 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sheet->findChildren<CrossFade*>().isEmpty(); }));
+    sheet->startup().openAtStartupCard().control().click();
+    EXPECT_EQ(sheet->startup().findChildren<CrossFade*>().size(), 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sheet->findChildren<CrossFade*>().isEmpty(); }));
 }
 
 TEST_F(SettingsSheetView, choosingATabLeavesTheChoiceOfTheDockAlone)
@@ -259,6 +270,28 @@ TEST_F(SettingsSheetView, everythingIsReachedAndDoneByTheKeyboard)
     row(StartupDockMode::hideFromDock).setFocus();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
     EXPECT_EQ(desktop.objects.backgroundModeManager().startupDockMode(), StartupDockMode::showInDock);
+}
+
+TEST_F(SettingsSheetView, tabLeadsToWhatIsChosenHoweverItWasChosen)
+{
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    openSecondTab();
+    desktop.objects.backgroundModeManager().setStartupDockMode(StartupDockMode::showInDock);
+    QStringList reached;
+    for (int step = 0; step < 5; ++step) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        reached += accessible(*QApplication::focusWidget()).text(QAccessible::Name);
+    }
+    EXPECT_THAT(reached,
+        ElementsAre(u"Close"_qs, u"Background & Startup"_qs, u"Open at Startup"_qs, u"Show in Dock"_qs, u"Done"_qs));
+}
+
+TEST_F(SettingsSheetView, theKeyboardOfASectionThatGoesIsOnTheTabThatCame)
+{
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    card(SwitchCard::otherKeys).control().setFocus();
+    openSecondTab();
+    EXPECT_TRUE(sheet->tabs().button(SettingsTab::backgroundAndStartup).hasFocus());
 }
 
 TEST_F(SettingsSheetView, assistiveTechnologyFindsNamesRolesStatesAndDescriptions)
