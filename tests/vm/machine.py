@@ -1,16 +1,17 @@
 #!/usr/bin/env python3
 """Runs a command in a virtual machine with USB keyboards.
 
-  machine.py [--keyboards N] [--processors N] [--counted] [--module NAME]... [--seconds N] -- COMMAND...
+  machine.py [--keyboards N] [--services] [--module NAME]... [--seconds N] -- COMMAND...
 
 A stock Debian kernel boots under QEMU without a disk: the guest's root is this machine's, read-only, under a layer of
 memory. COMMAND runs there as root in the present directory, and its exit status is ours; 77 says that there can be no
 such machine here, and why. The guest finds in TARVIN_VM_MONITOR the device by which it speaks to the machine's
 monitor, so that a test presses its own keys; keyboard N is on display vN.
 
-Everything is emulated in software, the processor too: a second there does the work of a tenth of one here. With
---counted its clock counts instructions, four nanoseconds each, whatever the host does meanwhile; when it has nothing
-to do, it waits as anybody.
+With --services the system's own service manager is the first process there, with udev and the login manager.
+
+Everything is emulated in software, the processor too. Its clock counts instructions, four nanoseconds each, so a busy
+host makes the machine slow and no deadline in it missed; when it has nothing to do, it waits as anybody.
 """
 
 import argparse
@@ -57,11 +58,39 @@ for turn in $(seq 60); do
     [ "$(grep -c 'QEMU USB Keyboard' /proc/bus/input/devices)" -ge KEYBOARDS ] && break; sleep .05
 done
 stty -onlcr -echo </dev/ttyS0
+cat >/run/command <<'END'
 cd DIRECTORY
 ENVIRONMENT setsid -w -c COMMAND </dev/ttyS0 >/dev/ttyS0 2>&1
 echo $? >/dev/ttyS1
 /bin/busybox poweroff -f
+END
 """
+
+# How the command is run: by the first process itself, or by the system's own service manager in its place.
+ALONE = "exec /bin/bash /run/command\n"
+SERVICE = r"""
+mkdir -p /run/systemd/system
+# Nothing is to be cleaned, synchronised or kept of this machine.
+for unit in systemd-tmpfiles-setup systemd-tmpfiles-setup-dev systemd-timesyncd systemd-random-seed systemd-update-utmp \
+    systemd-sysusers systemd-journal-flush systemd-sysctl systemd-binfmt systemd-pstore systemd-udev-trigger apparmor; do
+    ln -s /dev/null /run/systemd/system/$unit.service
+done
+ln -s /dev/null /run/systemd/system/timers.target; ln -s /dev/null /run/systemd/system/paths.target
+cat >/run/systemd/system/machine.service <<END
+[Unit]
+After=systemd-udevd.service systemd-logind.service
+Wants=systemd-udevd.service systemd-logind.service
+[Service]
+ExecStart=/bin/bash /run/command
+PassEnvironment=TARVIN_VM_MONITOR HOME TERM LC_ALL PYTHONDONTWRITEBYTECODE
+END
+exec /lib/systemd/systemd --unit=machine.service --show-status=no --log-level=warning
+"""
+
+
+# What a service manager needs to let somebody log in.
+SERVICE_PARTS = ("lib/systemd/systemd-logind", "lib/*/security/pam_systemd.so", "usr/bin/dbus-daemon",
+                 "usr/share/dbus-1/system.conf", "lib/systemd/systemd-udevd")
 
 
 class NoMachine(Exception):
@@ -82,7 +111,7 @@ def find_kernel():
     raise NoMachine("there is no kernel package; tools/fetch-kernel gets one")
 
 
-def require_tools():
+def require_tools(options):
     if platform.machine() != "x86_64":
         raise NoMachine(f"the virtual machine is an x86-64, this one is {platform.machine()}")
     for tool in ("qemu-system-x86_64", "cpio", "depmod", "modprobe"):
@@ -90,6 +119,9 @@ def require_tools():
             raise NoMachine(f"{tool} is not installed")
     if not pathlib.Path("/bin/busybox").exists():
         raise NoMachine("busybox is not installed")
+    for part in SERVICE_PARTS if options.services else ():
+        if not any(pathlib.Path("/").glob(part)):
+            raise NoMachine(f"/{part} is not installed")
 
 
 def first_files(kernel, version, options, work):
@@ -130,14 +162,14 @@ def guest_script(options):
         "ENVIRONMENT": " ".join(f"{name}={shlex.quote(value)}" for name, value in passed.items()),
         "COMMAND": shlex.join(options.command),
     }
-    script = SECOND
+    script = SECOND + (SERVICE if options.services else ALONE)
     for word, value in words.items():
         script = script.replace(word, value)
     return script
 
 
 def boot(options):
-    require_tools()
+    require_tools(options)
     kernel, version = find_kernel()
     with tempfile.TemporaryDirectory(prefix="machine-") as directory:
         work = pathlib.Path(directory)
@@ -149,14 +181,10 @@ def boot(options):
         for number in range(options.keyboards):
             # The monitor names a keyboard by the display that it belongs to.
             keyboards += ["-device", f"bochs-display,id=v{number}", "-device", f"usb-kbd,id=kbd{number},display=v{number}"]
-        # Where instructions make the time, a busy host makes no figure worse.
-        processor = (["-accel", "tcg,thread=single,tb-size=512", "-icount", "shift=2"] if options.counted
-                     else ["-accel", "tcg,thread=multi,tb-size=512"])
         command = [
-            "qemu-system-x86_64", *processor, "-cpu", "max,la57=off", "-smp",
-            str(options.processors), "-m", "2G", "-M", "q35", "-nodefaults", "-no-user-config", "-no-reboot", "-display",
+            "qemu-system-x86_64", "-accel", "tcg,thread=single,tb-size=512", "-icount", "shift=2", "-cpu", "max,la57=off", "-m", "2G", "-M", "q35", "-nodefaults", "-no-user-config", "-no-reboot", "-display",
             "none", "-vga", "none", "-kernel", str(kernel / "boot" / f"vmlinuz-{version}"), "-initrd", str(packed),
-            "-append", "console=ttyS0 quiet loglevel=3 panic=-1 tsc=reliable mitigations=off",
+            "-append", "console=ttyS0 quiet loglevel=3 panic=-1 tsc=reliable no_timer_check mitigations=off",
             "-chardev", "stdio,id=console,signal=off", "-serial", "chardev:console", "-serial", f"file:{status}",
             "-chardev", f"socket,id=m,path={monitor},server=on,wait=off", "-mon", "chardev=m,mode=control",
             "-chardev", f"socket,id=g,path={monitor}", "-device", "virtio-serial-pci",
@@ -176,8 +204,7 @@ def boot(options):
 def main():
     parser = argparse.ArgumentParser(usage=__doc__)
     parser.add_argument("--keyboards", type=int, default=1)
-    parser.add_argument("--processors", type=int, default=2)
-    parser.add_argument("--counted", action="store_true")
+    parser.add_argument("--services", action="store_true")
     parser.add_argument("--module", action="append", default=[])
     parser.add_argument("--qemu", action="append", default=[])
     parser.add_argument("--seconds", type=int, default=280)

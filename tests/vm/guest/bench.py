@@ -286,7 +286,7 @@ class Daemon:
 class Application:
     """An application in a process of its own, which answers pings and tells what it hears."""
 
-    def __init__(self, keys=(), summon=False):
+    def __init__(self, keys=(), summon=False, path=SOCKET, user=None):
         ours, theirs = socket.socketpair(socket.AF_UNIX, socket.SOCK_SEQPACKET)
         self.pid = os.fork()
         if self.pid == 0:
@@ -294,7 +294,10 @@ class Application:
             os.closerange(3, theirs.fileno())
             os.closerange(theirs.fileno() + 1, 256)
             try:
-                self.serve(theirs)
+                if user is not None:
+                    os.setgroups([])
+                    os.setresuid(user, user, user)
+                self.serve(theirs, path)
             finally:
                 os._exit(0)
         theirs.close()
@@ -302,9 +305,9 @@ class Application:
         self.heard_words = []
         self.publish(keys, summon)
 
-    def serve(self, road):
+    def serve(self, road, path):
         daemon = socket.socket(socket.AF_UNIX, socket.SOCK_SEQPACKET)
-        daemon.connect(SOCKET)
+        daemon.connect(path)
         while True:
             ready, _, _ = select.select([road, daemon], [], [])
             if road in ready:
@@ -369,6 +372,12 @@ def steal_descriptor(pid, number):
     libc = ctypes.CDLL(None, use_errno=True)
     pidfd = os.pidfd_open(pid)
     return libc.syscall(438, pidfd, number, 0)
+
+
+def activate_terminal(number):
+    """Brings a virtual terminal to the front, and with it the session that is there."""
+    with open("/dev/tty0", "rb+", buffering=0) as terminal:
+        fcntl.ioctl(terminal, 0x5606, number)
 
 
 def start_udev():

@@ -12,7 +12,7 @@ import unittest
 
 from bench import CLONE, EV_KEY, Application, Daemon, Node, UserKeyboard, find_nodes, start_udev, until
 
-EVENTS_PER_ROUND, ROUNDS = 250, 6
+EVENTS_PER_ROUND, ROUNDS = 250, 4
 
 
 def percentile(values, share):
