@@ -24,6 +24,9 @@ constexpr std::uint16_t inputMinor = 2;
 constexpr std::uint8_t secondaryButton = 3;
 
 constexpr QLatin1String postingName(tapd::postingDeviceName.data(), tapd::postingDeviceName.size());
+constexpr std::array<QLatin1String, 2> reEmittingNames{
+    QLatin1String(tapd::internalOutputName.data(), tapd::internalOutputName.size()),
+    QLatin1String(tapd::externalOutputName.data(), tapd::externalOutputName.size())};
 /// How the X server of a Wayland session names its devices.
 constexpr QLatin1String waylandPrefix("xwayland-");
 
@@ -159,6 +162,8 @@ Keyboards InputConnection::keyboards()
     for (const DeviceId device : devices) {
         const QString name = nameOf(device);
         found.areOfAnotherSession = found.areOfAnotherSession || name.startsWith(waylandPrefix);
+        if (std::ranges::find(reEmittingNames, name) != reEmittingNames.end())
+            found.reEmitting.push_back(device);
         if (name == postingName)
             found.posting = device;
         else if (!isFakingDevice(device))

@@ -15,6 +15,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <variant>
 #include <vector>
 
@@ -36,8 +37,19 @@ struct Keyboards
 {
     std::vector<DeviceId> physical; ///< those that a user can press keys on
     DeviceId faking = 0; ///< where the events that programs ask for are made
+    std::vector<DeviceId> reEmitting; ///< those of them by which the tap daemon gives the session what is typed
     DeviceId posting = 0; ///< the tap daemon's for what this program posts; 0 where this server does not have it
     bool areOfAnotherSession = false; ///< the server stands in for a Wayland session and sees only a part of its keys
+};
+
+/// The parts of a keymap by the names under which the server finds them.
+struct KeymapNames
+{
+    std::string keycodes;
+    std::string types;
+    std::string compatibility;
+    std::string symbols;
+    friend bool operator==(const KeymapNames&, const KeymapNames&) = default;
 };
 
 /// The conversation with one X server about keyboards, in the words of the project. Used by one thread.
@@ -84,6 +96,10 @@ public:
     [[nodiscard]] ModifierState modifierState();
     /// The keymaps of a keyboard and of the faking device.
     [[nodiscard]] KeyboardMap keyboardMap(DeviceId keyboard, DeviceId faking);
+    /// Empty for a keymap that has no names.
+    [[nodiscard]] std::optional<KeymapNames> keymapNames(DeviceId device);
+    /// Gives a keyboard another keymap. Nothing happens if the server does not find it.
+    void loadKeymap(DeviceId device, const KeymapNames& names);
     [[nodiscard]] std::optional<RootPosition> pointerPosition();
 
 private:

@@ -2,6 +2,7 @@
 
 #include "platform/linux/x11/KeyEvents.h"
 
+#include <algorithm>
 #include <type_traits>
 #include <utility>
 #include <variant>
@@ -16,6 +17,7 @@ InputEngine::InputEngine(std::unique_ptr<InputConnection> connection, InputShare
 {
     m_keyboards = m_connection->keyboards();
     m_modifiers = m_connection->modifierState();
+    adoptKeymap();
     refreshKeymap();
     m_router.adopt(m_connection->downKeys());
     for (const DeviceId device : m_keyboards.physical)
@@ -138,6 +140,7 @@ void InputEngine::handle(const KeyboardChange& change)
     case KeyboardChange::Kind::came:
         if (!isPostingDevice(change.device))
             carryOut(m_grabs.addDevice(change.device));
+        adoptKeymap();
         return;
     }
 }
@@ -287,6 +290,24 @@ std::vector<std::uint32_t> InputEngine::summonModifiers() const
             modifiers.push_back(state);
     }
     return modifiers;
+}
+
+/// A session sets the keymap of the keyboards that are there. What the tap daemon makes later speaks for these very
+/// keyboards, and must not type another layout.
+void InputEngine::adoptKeymap()
+{
+    std::vector<DeviceId> made = m_keyboards.reEmitting;
+    if (m_keyboards.posting != 0)
+        made.push_back(m_keyboards.posting);
+    const auto isMade = [&](DeviceId device) { return std::ranges::find(made, device) != made.end(); };
+    const auto typed = std::ranges::find_if_not(m_keyboards.physical, isMade);
+    if (made.empty() || typed == m_keyboards.physical.end())
+        return;
+    const auto names = m_connection->keymapNames(*typed);
+    for (const DeviceId device : made) {
+        if (names && m_connection->keymapNames(device) != names)
+            m_connection->loadKeymap(device, *names);
+    }
 }
 
 void InputEngine::refreshKeymap()

@@ -87,6 +87,7 @@ private:
     void carryOut(const GrabSteps& steps);
     void noteOutcome(PhysicalKey key, GrabOutcome outcome);
     void refreshKeymap();
+    void adoptKeymap();
     void publishHeldSides();
     [[nodiscard]] std::vector<std::uint32_t> summonModifiers() const;
     [[nodiscard]] Situation situation() const;

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <string>
 
 namespace tarvin::x11 {
 
@@ -97,6 +98,23 @@ TEST_P(DevicePosting, lettersAreFoundWhereTheLayoutHasThem)
     EXPECT_EQ(posting->count, 6);
 }
 
+TEST_P(DevicePosting, aDeviceThatComesLaterGetsTheLayoutOfTheKeyboards)
+{
+    server->setLayout("fr");
+    endtoend::PhysicalKeyboard device(server->display(), endtoend::XServer::postingKeyboardName);
+    device.setEnabled(false);
+    settle();
+    const auto id =
+        std::to_string(endtoend::XClient(server->display()).deviceNamed(endtoend::XServer::postingKeyboardName));
+    endtoend::ChildProcess tool({"setxkbmap", "-display", server->display(), "-device", id, "-layout", "us"});
+    ASSERT_EQ(tool.waitForEnd(), 0);
+    device.setEnabled(true);
+    settle();
+    postStroke(keyA, EventFlags::command, KeystrokeOrigin::builtIn);
+    EXPECT_EQ(takeClientKeys(), "+leftControl +q -q -leftControl") << "select all is a letter";
+    EXPECT_EQ(posting->count, 4);
+}
+
 TEST_P(DevicePosting, aChordHoldsItsModifiersFromTheFirstKeyToTheLast)
 {
     post(keyC, KeyState::down, shift);
@@ -166,6 +184,7 @@ TEST_P(DevicePosting, aStrokeThatLosesItsDeviceEndsAllTheSame)
     posting->isThere = false;
     endtoend::PhysicalKeyboard device(server->display(), endtoend::XServer::postingKeyboardName);
     device.setEnabled(false); // the server lets go of what is held on it
+    settle();
     post(keyC, KeyState::up, control);
     EXPECT_EQ(takeClientKeys(), "-leftControl -c");
     postStroke(keyA);
