@@ -300,6 +300,8 @@ void TapDaemon::beginAnewAfterTakeOver()
 {
     closeEverything();
     m_outputs.releaseEverything();
+    if (m_service.hasApplication())
+        m_service.readApplicationAfterPause(m_now);
     m_guard.page().isTakenOver = false;
 }
 

@@ -60,6 +60,13 @@ void TapService::readApplication(EventTime now)
     }
 }
 
+void TapService::readApplicationAfterPause(EventTime now)
+{
+    m_isCatchingUp = true;
+    readApplication(now);
+    m_isCatchingUp = false;
+}
+
 void TapService::handle(const Publish& publish, EventTime now)
 {
     m_published = {.keys = publish.keys, .takesSummon = publish.takesSummon};
@@ -73,6 +80,8 @@ void TapService::handle(const Post& post, EventTime)
     if (keyRowOfEvdevCode(post.code) == nullptr)
         return;
     const bool isPress = post.motion == KeyMotion::press;
+    if (isPress && m_isCatchingUp)
+        return;
     m_posted.set(post.code, isPress);
     EventBuffer events;
     events.append(EV_KEY, post.code, isPress ? 1 : 0);

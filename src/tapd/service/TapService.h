@@ -40,6 +40,8 @@ public:
     [[nodiscard]] int applicationDescriptor() const { return m_socket.descriptor(); }
     /// Works off what the application has sent. One that sends rubbish is dropped.
     void readApplication(EventTime now);
+    /// The same after a time in which nothing was read: what the application wanted typed meanwhile is not typed now.
+    void readApplicationAfterPause(EventTime now);
 
     /// Whether keyboards are to be grabbed. Those that are grabbed while this is false are to be given back as soon as
     /// they are at rest.
@@ -76,6 +78,7 @@ private:
     std::uint32_t m_pings = 0;
     std::uint32_t m_wayOuts = 0;
     bool m_isSilent = false;
+    bool m_isCatchingUp = false; ///< what is read was sent during a pause
     bool m_isOut = false;
     bool m_isReleaseDue = false;
 };

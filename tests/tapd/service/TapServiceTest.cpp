@@ -276,6 +276,24 @@ TEST_F(TapServiceTest, postedKeysGoThroughTheirOwnDevice)
     EXPECT_EQ(bench.outputs.takeWritten(), "");
 }
 
+TEST_F(TapServiceTest, whatWasToBePostedDuringAPauseIsNotPostedAfterIt)
+{
+    ApplicationEnd application = bench.connect();
+    application.send(Post{.code = KEY_A, .motion = KeyMotion::press});
+    bench.service.readApplication(bench.now());
+    EXPECT_EQ(bench.outputs.takePosted(), "+a");
+    application.send(Post{.code = KEY_A, .motion = KeyMotion::release});
+    application.send(Post{.code = KEY_B, .motion = KeyMotion::press});
+    application.send(Post{.code = KEY_B, .motion = KeyMotion::release});
+    application.send(Publish{.keys = 1U << static_cast<unsigned>(FKey::f5)});
+    bench.service.readApplicationAfterPause(bench.now());
+    EXPECT_EQ(bench.outputs.takePosted(), "-a -b") << "a release of what is up does nothing";
+    EXPECT_EQ(bench.play("+f5"), "") << "all else counts";
+    application.send(Post{.code = KEY_B, .motion = KeyMotion::press});
+    bench.service.readApplication(bench.now());
+    EXPECT_EQ(bench.outputs.takePosted(), "+b");
+}
+
 TEST_F(TapServiceTest, whatAnApplicationHasPostedGoesUpWithIt)
 {
     {
