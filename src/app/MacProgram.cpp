@@ -18,7 +18,6 @@
 #include "ui/InterfaceStyle.h"
 
 #include <QApplication>
-#include <QJsonObject>
 
 #include <chrono>
 #include <cstdlib>
@@ -45,8 +44,10 @@ public:
     ResidentProgram()
         : m_panels(m_desktop.panelSurroundings())
         , m_objects(m_desktop.ports(), m_panels)
-        // The taps decide by the set of keys as it is: there is nothing to wait for.
-        , m_commands(m_objects, ControlPaths::fromEnvironment().control, {.settleKeys = [] {}})
+        // The taps ask about each event, so what is customised holds at once.
+        , m_commands(m_objects, ControlPaths::fromEnvironment().control,
+              {.settleKeys = [] {},
+                  .installedApplications = [this] { return m_desktop.applicationFolders.installedApplications(); }})
         , m_editors(m_desktop.ports(), m_objects)
     { }
 

@@ -13,6 +13,9 @@ public:
     /// What the bundle names as its icon. A bundle whose icon is only in its asset catalogue has none here.
     [[nodiscard]] QStringList pictureFiles(const QString& icon, int pixels) const override;
     [[nodiscard]] ApplicationBrowsing browsing() const override;
+
+    /// How many there are by their names alone, which is quick: no bundle is opened.
+    [[nodiscard]] qsizetype installedApplications() const;
 };
 
 } // namespace tarvin::macos

@@ -20,22 +20,32 @@ std::optional<QString> textOf(NSBundle* bundle, const char* key)
     return [value isKindOfClass:NSString.class] ? optionalString(value) : std::nullopt;
 }
 
-} // namespace
-
-QList<ApplicationBundle> MacApplicationFolders::contents(ApplicationFolder folder) const
+/// The paths in the folder that are named like applications; none where it can't be read.
+QStringList pathsIn(ApplicationFolder folder)
 {
-    QList<ApplicationBundle> bundles;
     @autoreleasepool {
         const QString path = [&] {
             const std::lock_guard lock(bundleMutex);
             return applicationFolderPath(folder, folderPath(qString(NSHomeDirectory())));
         }();
-        NSArray<NSString*>* const names = [NSFileManager.defaultManager contentsOfDirectoryAtPath:nsString(path)
-                                                                                            error:nil];
-        for (NSString* name in names) {
-            if (auto bundle = bundleAt(path + u'/' + qString(name)))
-                bundles.append(std::move(*bundle));
+        QStringList paths;
+        for (NSString* name in [NSFileManager.defaultManager contentsOfDirectoryAtPath:nsString(path) error:nil]) {
+            const QString place = path + u'/' + qString(name);
+            if (isApplicationPath(place))
+                paths.append(place);
         }
+        return paths;
+    }
+}
+
+} // namespace
+
+QList<ApplicationBundle> MacApplicationFolders::contents(ApplicationFolder folder) const
+{
+    QList<ApplicationBundle> bundles;
+    for (const QString& path : pathsIn(folder)) {
+        if (auto bundle = bundleAt(path))
+            bundles.append(std::move(*bundle));
     }
     return bundles;
 }
@@ -66,6 +76,14 @@ QStringList MacApplicationFolders::pictureFiles(const QString& icon, int) const
         const std::optional<QString> name = bundle ? textOf(bundle, bundleIconKey) : std::nullopt;
         return name && !name->isEmpty() ? QStringList(iconFilePath(icon, *name)) : QStringList();
     }
+}
+
+qsizetype MacApplicationFolders::installedApplications() const
+{
+    qsizetype count = 0;
+    for (const ApplicationFolder folder : allApplicationFolders)
+        count += pathsIn(folder).size();
+    return count;
 }
 
 ApplicationBrowsing MacApplicationFolders::browsing() const
