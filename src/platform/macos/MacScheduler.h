@@ -5,7 +5,8 @@
 namespace tarvin::macos {
 
 /// The scheduler on the main dispatch queue and the main run loop. Delayed calls and timers run in the common modes, so
-/// that they also run while a menu is open. Made, shut down and destroyed on the main thread.
+/// that they also run while a menu is open, and the system does not nap the program while this object lives. Made, shut
+/// down and destroyed on the main thread.
 class MacScheduler final : public Scheduler
 {
 public:

@@ -52,6 +52,16 @@ private:
 
 struct MacScheduler::Native
 {
+    Native() = default;
+    ~Native() { [NSProcessInfo.processInfo endActivity:activity]; }
+    Native(const Native&) = delete;
+    Native& operator=(const Native&) = delete;
+
+    /// Without it the system naps a program that shows no window: it delays its timers, and a key would stay pressed
+    /// for as long as the timer that releases it is late. The machine may sleep all the same.
+    id<NSObject> activity =
+        [NSProcessInfo.processInfo beginActivityWithOptions:NSActivityUserInitiatedAllowingIdleSystemSleep
+                                                     reason:@"Keys are answered in time"];
     std::shared_ptr<Admission> admission = std::make_shared<Admission>();
     dispatch_group_t work = dispatch_group_create();
     dispatch_queue_t log = dispatch_queue_create(

@@ -115,7 +115,12 @@ static inline NSRange NSMakeRange(NSUInteger location, NSUInteger length)
 @property (readonly, copy) NSDictionary<NSString*, id>* infoDictionary;
 @end
 
+typedef uint64_t NSActivityOptions;
+enum : NSActivityOptions { NSActivityUserInitiatedAllowingIdleSystemSleep = 0xEFFFFF };
+
 @interface NSProcessInfo : NSObject
+- (id<NSObject>)beginActivityWithOptions:(NSActivityOptions)options reason:(NSString*)reason;
+- (void)endActivity:(id<NSObject>)activity;
 @property (class, readonly) NSProcessInfo* processInfo;
 @property (readonly, copy) NSString* processName;
 @property (readonly, copy) NSArray<NSString*>* arguments;
