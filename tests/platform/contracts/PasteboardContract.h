@@ -6,13 +6,21 @@
 
 namespace tarvin::contracts {
 
-/// What every platform's clipboard promises. A platform under test has `pasteboard()` and `until(condition)`. The
-/// content of a real clipboard is put back afterwards, as far as it is text.
+/// What every platform's clipboard promises. A platform under test has `pasteboard()` and `until(condition)`; one that
+/// may be missing has `lack()`, which says why. The content of a real clipboard is put back afterwards, as far as it is
+/// text.
 template <typename Tested> class PasteboardContract : public testing::Test
 {
 protected:
-    PasteboardContract() { m_before = read(); }
-    ~PasteboardContract() override
+    void SetUp() override
+    {
+        if constexpr (requires { Tested::lack(); }) {
+            if (const auto lack = Tested::lack())
+                GTEST_SKIP() << *lack;
+        }
+        m_before = read();
+    }
+    void TearDown() override
     {
         if (m_before)
             pasteboard.setText(*m_before);
