@@ -45,6 +45,8 @@ QIcon menuBarIcon()
     QIcon painted;
     for (const int size : {16, 22, 24, 32, 44, 48, 64})
         painted.addPixmap(paintedMenuBarIcon(size));
+    // Where the bar colours its items by itself, as on macOS, it takes the shape alone.
+    painted.setIsMask(true);
     return painted;
 }
 
