@@ -11,7 +11,10 @@ namespace {
 class PasteboardOnX
 {
 public:
-    static std::optional<std::string> lack() { return endtoend::XServer::lack(endtoend::XServer::Kind::virtualFramebuffer); }
+    static std::optional<std::string> lack()
+    {
+        return endtoend::XServer::lack(endtoend::XServer::Kind::virtualFramebuffer);
+    }
 
     Pasteboard& pasteboard() { return m_pasteboard; }
     bool until(const std::function<bool()>& condition) { return m_queue.runUntil(condition); }
