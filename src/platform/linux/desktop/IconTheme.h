@@ -19,7 +19,7 @@ struct IconPlaces
 };
 
 /// The pictures of an icon theme, of the themes it inherits from and of the one that all fall back on, by the rules of
-/// the icon theme specification. What the themes consist of is read once, which is slow; after that any thread may ask.
+/// the desktops' icon themes. What the themes consist of is read once, which is slow; after that any thread may ask.
 class IconTheme
 {
 public:
