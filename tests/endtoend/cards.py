@@ -46,8 +46,7 @@ class Cards(AccessibleSession):
         self.until_there(pattern)
 
     def press_f5(self):
-        # What was changed is in force when the program answers.
-        self.desktop.ask(self.program, "status")
+        self.settle()
         self.press("+f5 40ms -f5")
 
     def begin(self, button, banner):
