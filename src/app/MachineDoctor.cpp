@@ -15,7 +15,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto answerTimeout = 3s;
+constexpr auto statusPatience = 3s;
 
 void askProgram(DoctorFacts& facts)
 {
@@ -25,7 +25,7 @@ void askProgram(DoctorFacts& facts)
         || !connection->send(
             toLine(CommandRequest{.command = QStringLiteral("status"), .words = {QStringLiteral("--json")}})))
         return;
-    const auto line = connection->readLine(answerTimeout);
+    const auto line = connection->readLine(statusPatience);
     const auto reply = line ? commandReplyFromLine(*line) : std::nullopt;
     facts.isAnswering = reply.has_value();
     if (reply)
