@@ -70,6 +70,8 @@ std::optional<ApplicationBundle> MacApplicationFolders::bundleAt(const QString& 
 
 QStringList MacApplicationFolders::pictureFiles(const QString& icon, int) const
 {
+    if (!isApplicationPath(icon))
+        return {};
     const std::lock_guard lock(bundleMutex);
     @autoreleasepool {
         NSBundle* const bundle = [NSBundle bundleWithPath:nsString(icon)];

@@ -36,6 +36,7 @@ TYPED_TEST_P(ApplicationFoldersContract, whatIsNoApplicationIsNone)
     EXPECT_EQ(this->folders.bundleAt(QString()), std::nullopt);
     EXPECT_EQ(this->folders.bundleAt(QStringLiteral("/")), std::nullopt);
     EXPECT_EQ(this->folders.bundleAt(QStringLiteral("/no/such/place")), std::nullopt);
+    EXPECT_TRUE(this->folders.pictureFiles(QString(), 32).isEmpty());
 }
 
 TYPED_TEST_P(ApplicationFoldersContract, aDialogBeginsInAFolderAndOffersASuffix)
