@@ -13,7 +13,7 @@ namespace tarvin::posix {
 
 namespace {
 
-constexpr mode_t forTheUserAlone = 0700;
+constexpr mode_t folderForTheUserAlone = 0700;
 
 QString freeNameBeside(const QString& path)
 {
@@ -47,7 +47,7 @@ void PosixFiles::createDirectory(const QString& path)
     if (exists(path))
         return;
     createDirectory(QFileInfo(path).path());
-    m_calls.mkdir(QFile::encodeName(path).constData(), forTheUserAlone);
+    m_calls.mkdir(QFile::encodeName(path).constData(), folderForTheUserAlone);
 }
 
 std::optional<FileError> PosixFiles::writeAtomically(const QString& path, const QByteArray& content)

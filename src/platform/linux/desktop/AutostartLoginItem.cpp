@@ -15,7 +15,7 @@ namespace tarvin::desktop {
 
 namespace {
 
-const QString fileName = QStringLiteral("tarvin.desktop");
+const QString entryName = QStringLiteral("tarvin.desktop");
 
 /// Marks an entry that hides the system's because Tarvin was told not to open at login.
 constexpr QByteArrayView ownHidingKey = "X-Tarvin-NotAtLogin";
@@ -124,13 +124,13 @@ std::optional<QString> AutostartLoginItem::disable()
 
 QString AutostartLoginItem::ownPath() const
 {
-    return m_directories.value(0) + u'/' + fileName;
+    return m_directories.value(0) + u'/' + entryName;
 }
 
 bool AutostartLoginItem::systemBringsEntry() const
 {
     return std::any_of(m_directories.cbegin() + std::min<qsizetype>(1, m_directories.size()), m_directories.cend(),
-        [](const QString& directory) { return QFile::exists(directory + u'/' + fileName); });
+        [](const QString& directory) { return QFile::exists(directory + u'/' + entryName); });
 }
 
 } // namespace tarvin::desktop
