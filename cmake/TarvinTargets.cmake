@@ -30,6 +30,10 @@ if(NOT APPLE)
 endif()
 target_compile_definitions(tarvin_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
                                                     QT_NO_FOREACH TARVIN_VERSION="${PROJECT_VERSION}")
+# Where files are joined, a class may well have members of a type that is the file's own.
+if(CMAKE_UNITY_BUILD)
+    target_compile_options(tarvin_options INTERFACE -Wno-subobject-linkage)
+endif()
 # Optimising across files, gcc 12 sees sizes in the hash tables of Qt that cannot be.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_link_options(tarvin_options INTERFACE -Wno-alloc-size-larger-than)

@@ -18,7 +18,7 @@ constexpr Words screenCaptureWords = {u"screenshot", u"snip", u"capture", u"grab
     u"printscreen", u"prntscr", u"area", u"window", u"marquee", u"full", u"fullscreen", u"full screen", u"full display",
     u"entire screen", u"entire display", u"snapshot", u"screen grab", u"recording", u"pic", u"picture"};
 
-constexpr std::array<KeywordRow, keyActionCount> rows = {{
+constexpr std::array<KeywordRow, keyActionCount> keywordRows = {{
     {KeyAction::screenCapture, screenCaptureWords},
     {KeyAction::toggleMicMute,
         {u"mic", u"microphone", u"mute", u"unmute", u"audio", u"input", u"zoom", u"meet", u"teams", u"voice", u"call",
@@ -160,13 +160,13 @@ constexpr std::array<KeywordRow, keyActionCount> rows = {{
     {KeyAction::screenshotArea, screenCaptureWords},
     {KeyAction::screenshotFull, screenCaptureWords},
 }};
-static_assert(rowsStandInEnumerationOrder(rows, &KeywordRow::action));
+static_assert(rowsStandInEnumerationOrder(keywordRows, &KeywordRow::action));
 
 } // namespace
 
 std::span<const QStringView> keywords(KeyAction action) noexcept
 {
-    return rows[static_cast<std::size_t>(action)].words;
+    return keywordRows[static_cast<std::size_t>(action)].words;
 }
 
 } // namespace tarvin

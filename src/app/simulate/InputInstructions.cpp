@@ -142,7 +142,7 @@ Instruction readPosting(FieldReader& fields)
         .possible = fields.required(u"possible", field::boolean())};
 }
 
-constexpr auto rows = std::to_array<InstructionRow>({
+constexpr auto inputRows = std::to_array<InstructionRow>({
     {u"tap", Phase::either, readTap},
     {u"globalMonitor", Phase::either, readGlobalMonitor},
     {u"hidManager", Phase::either, readHidManager},
@@ -157,7 +157,7 @@ constexpr auto rows = std::to_array<InstructionRow>({
 
 std::span<const InstructionRow> inputInstructions()
 {
-    return rows;
+    return inputRows;
 }
 
 } // namespace tarvin::simulate

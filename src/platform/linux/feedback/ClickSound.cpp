@@ -7,7 +7,7 @@ namespace tarvin::feedback {
 
 namespace {
 
-constexpr std::uint32_t rate = 44100;
+constexpr std::uint32_t clickRate = 44100;
 constexpr double duration = 0.018; // seconds
 constexpr double attack = 0.0004; // seconds until it is loudest
 constexpr double loudness = 0.35; // of full scale
@@ -32,12 +32,12 @@ double valueOf(const Tone& tone, double time)
 
 PcmSound clickSound()
 {
-    PcmSound sound{.samples = {}, .rate = rate, .channels = 1};
-    const auto count = static_cast<std::size_t>(duration * rate);
+    PcmSound sound{.samples = {}, .rate = clickRate, .channels = 1};
+    const auto count = static_cast<std::size_t>(duration * clickRate);
     sound.samples.reserve(count);
     std::uint32_t random = 0x5452564E;
     for (std::size_t i = 0; i < count; ++i) {
-        const double time = static_cast<double>(i) / rate;
+        const double time = static_cast<double>(i) / clickRate;
         random = random * 1664525U + 1013904223U;
         const double noise = static_cast<double>(random) / 2147483648.0 - 1.0;
         const double rise = std::min(1.0, time / attack);
