@@ -1,6 +1,7 @@
 #include "app/MachineDoctor.h"
 
 #include "platform/linux/desktop/LinuxProcessInfo.h"
+#include "platform/linux/evdev/TapClient.h"
 #include "platform/linux/x11/XCapabilities.h"
 
 #include <QDBusConnection>
@@ -18,13 +19,12 @@ namespace tarvin {
 
 namespace {
 
-/// The socket of the daemon that takes keys from the kernel.
-const QString daemonSocket = QStringLiteral("/run/tarvin/tapd.sock");
+/// The daemon that takes keys from the kernel.
 const QString daemonName = QStringLiteral("tarvin-tapd");
 
 /// Programs that read keyboards as a matter of course, and take no keys from others.
-constexpr std::array<QStringView, 9> harmlessReaders = {u"Xorg", u"Xwayland", u"systemd-logind", u"systemd",
-    u"gnome-shell", u"kwin_wayland", u"sway", u"acpid", u"tarvin-tapd"};
+constexpr std::array<QStringView, 10> harmlessReaders = {u"Xorg", u"Xwayland", u"systemd-logind", u"systemd",
+    u"gnome-shell", u"kwin_wayland", u"sway", u"acpid", u"tarvin-tapd", u"tapd-guard"};
 
 bool isDaemonInstalled()
 {
@@ -87,7 +87,7 @@ Diagnosis diagnoseThisMachine(const QStringList& arguments)
         facts.isKeyboardTaken = server->isKeyboardTaken;
         facts.hasXTray = server->hasTray;
     }
-    facts.isDaemonReachable = access(QFile::encodeName(daemonSocket).constData(), R_OK | W_OK) == 0;
+    facts.isDaemonReachable = access(evdev::TapClient::defaultSocketPath().c_str(), R_OK | W_OK) == 0;
     facts.isDaemonInstalled = facts.isDaemonReachable || isDaemonInstalled();
     facts.keyboardHolders = keyboardHolders();
     facts.hasSoundServer = hasSoundServer();

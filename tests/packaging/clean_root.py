@@ -101,7 +101,10 @@ def look_at(package):
     contents = output("dpkg-deb", "-c", package)
     for file in ("usr/bin/tarvin", "usr/share/applications/com.velmor.Tarvin.desktop", "usr/share/man/man1/tarvin.1.gz",
                  "usr/share/bash-completion/completions/tarvin", "usr/share/metainfo/com.velmor.Tarvin.metainfo.xml",
-                 "usr/share/icons/hicolor/48x48/apps/com.velmor.Tarvin.png", "usr/share/doc/tarvin/copyright"):
+                 "usr/share/icons/hicolor/48x48/apps/com.velmor.Tarvin.png", "usr/share/doc/tarvin/copyright",
+                 "usr/libexec/tarvin/tarvin-tapd", "usr/lib/systemd/system/tarvin-tapd.service",
+                 "usr/lib/systemd/system/tarvin-tapd.socket", "usr/lib/udev/rules.d/60-tarvin-tapd.rules",
+                 "usr/lib/sysusers.d/tarvin-tapd.conf"):
         check(f"the package holds {file}", f" ./{file}\n" in contents)
     if shutil.which("lintian"):
         lint = subprocess.run(["lintian", "--allow-root", "--fail-on", "error", package], capture_output=True, text=True,
