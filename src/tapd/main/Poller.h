@@ -44,11 +44,10 @@ public:
     [[nodiscard]] std::span<const Ready> wait(std::optional<EventTime> deadline)
     {
         setAlarm(deadline);
-        std::array<epoll_event, mostAtOnce> events; // filled by the kernel
-        const int count = ::epoll_wait(m_descriptor.get(), events.data(), mostAtOnce, -1);
+        const int count = ::epoll_wait(m_descriptor.get(), m_events.data(), mostAtOnce, -1);
         std::size_t size = 0;
         for (int i = 0; i < count; ++i) {
-            const std::uint64_t data = events[static_cast<std::size_t>(i)].data.u64;
+            const std::uint64_t data = m_events[static_cast<std::size_t>(i)].data.u64;
             if (data == alarmData)
                 m_alarmTime.reset();
             else
@@ -85,6 +84,7 @@ private:
     FileDescriptor m_descriptor{::epoll_create1(EPOLL_CLOEXEC)};
     FileDescriptor m_alarm{::timerfd_create(CLOCK_MONOTONIC, TFD_CLOEXEC | TFD_NONBLOCK)};
     std::optional<EventTime> m_alarmTime; ///< when it rings, if it is set
+    std::array<epoll_event, mostAtOnce> m_events{};
     std::array<Ready, mostAtOnce> m_ready{};
 };
 
