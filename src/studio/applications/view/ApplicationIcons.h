@@ -40,7 +40,7 @@ private:
     struct Wish
     {
         QString icon;
-        int pixels;
+        int pixels = 0;
         bool operator==(const Wish&) const = default;
         friend std::size_t qHash(const Wish& wish, std::size_t seed = 0)
         {

@@ -92,10 +92,6 @@ SettingsSheet::SettingsSheet(std::unique_ptr<SettingsSheetModel> model)
     , m_model(std::move(model))
     , m_title(new TextLabel({}, titleStyle, white, this))
     , m_subtitle(new TextLabel({}, subtitleStyle, white.at(0.55), this))
-    , m_tabs(nullptr)
-    , m_keyboardFlexibility(nullptr)
-    , m_startup(nullptr)
-    , m_summary(nullptr)
 {
     addHeader();
     m_tabs = new SettingsTabBar(this);

@@ -51,11 +51,11 @@ private:
     std::unique_ptr<SettingsSheetModel> m_model;
     TextLabel* m_title;
     TextLabel* m_subtitle;
-    SettingsTabBar* m_tabs;
-    KeyboardFlexibilitySection* m_keyboardFlexibility;
-    StartupSection* m_startup;
+    SettingsTabBar* m_tabs = nullptr;
+    KeyboardFlexibilitySection* m_keyboardFlexibility = nullptr;
+    StartupSection* m_startup = nullptr;
     std::array<QScrollArea*, settingsTabRows.size()> m_areas{};
-    TextLabel* m_summary;
+    TextLabel* m_summary = nullptr;
 };
 
 } // namespace tarvin

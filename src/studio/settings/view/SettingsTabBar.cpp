@@ -41,7 +41,7 @@ SettingsTabBar::SettingsTabBar(QWidget* parent)
     row->addStretch();
 }
 
-void SettingsTabBar::setSelected(SettingsTab tab)
+void SettingsTabBar::setSelected(SettingsTab tab) const
 {
     for (const SettingsTabRow& each : settingsTabRows)
         button(each.tab).setSelected(each.tab == tab);

@@ -20,7 +20,7 @@ public:
     explicit SettingsTabBar(QWidget* parent);
 
     [[nodiscard]] SettingsTabButton& button(SettingsTab tab) const { return *m_buttons[static_cast<std::size_t>(tab)]; }
-    void setSelected(SettingsTab tab);
+    void setSelected(SettingsTab tab) const;
 
 Q_SIGNALS:
     void tabChosen(tarvin::SettingsTab tab);
