@@ -58,6 +58,10 @@ function(tarvin_library name)
     add_library(${name} STATIC ${arg_SOURCES})
     target_link_libraries(${name} PUBLIC tarvin_options Qt6::Core ${arg_LINKS})
     target_precompile_headers(${name} REUSE_FROM tarvin_pch)
+    # What draws names its measures file by file, and the same names come again in one folder.
+    if("Qt6::Widgets" IN_LIST arg_LINKS OR "tarvin_ui" IN_LIST arg_LINKS)
+        set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
+    endif()
 endfunction()
 
 # tarvin_plain_library(NAME SOURCES file... LINKS target...): the same without Qt.
