@@ -106,7 +106,7 @@ function(tarvin_test name)
         set_target_properties(tarvin_test_pch PROPERTIES AUTOMOC OFF EXCLUDE_FROM_ALL ON)
     endif()
     target_precompile_headers(${name} REUSE_FROM tarvin_test_pch)
-    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 60)
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
     # The properties above can't hold a list, so the labels are set where ctest reads what was discovered.
     set(labels ${CMAKE_CURRENT_BINARY_DIR}/${name}_labels.cmake)
     file(WRITE ${labels} "if(${name}_TESTS)\n"
