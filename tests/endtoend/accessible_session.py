@@ -64,10 +64,6 @@ class AccessibleSession(Session):
         self.until_there("Restore Defaults")
         return process
 
-    def setting(self, key):
-        file = self.desktop.config / "Tarvin" / "settings.json"
-        return json.loads(file.read_text()).get(key) if file.exists() else None
-
     def stored(self):
         file = self.folder / "profiles_mappings.json"
         return json.loads(file.read_text()) if file.exists() else {}

@@ -5,7 +5,7 @@ import subprocess
 import time
 import unittest
 
-from session import QUIET, Application, Session, until
+from session import QUIET, Application, Session, add_entry, until
 from surroundings import Player, Service, SoundServer, SystemBus, TextField, need
 
 SCREEN_WIDTH, SCREEN_HEIGHT = 1280, 860
@@ -331,10 +331,8 @@ class Actions(Session):
 
     def test_a_terminal_gets_its_own_keystroke_for_paste(self):
         need("xclip", "xterm")
-        entries = self.desktop.data / "applications"
-        entries.mkdir(exist_ok=True)
-        (entries / "terminal.desktop").write_text("[Desktop Entry]\nType=Application\nName=Terminal\nExec=xterm\n"
-                                                  "StartupWMClass=TextTerminal\nCategories=System;TerminalEmulator;\n")
+        add_entry(self.desktop, "terminal", "xterm", name="Terminal", StartupWMClass="TextTerminal",
+                  Categories="System;TerminalEmulator;")
         text = self.desktop.home / "text"
         text.write_text("pasted into a terminal\n")
         self.desktop.start("xclip", "-selection", "clipboard", "-quiet", "-i", text)
@@ -354,11 +352,8 @@ class Actions(Session):
         return self.desktop.ask("timeout", "2", "xclip", "-selection", "clipboard", "-o").decode()
 
     def test_an_application_is_started_by_its_entry(self):
-        entries = self.desktop.data / "applications"
-        entries.mkdir(exist_ok=True)
         started = self.desktop.home / "started"
-        (entries / "org.example.Tool.desktop").write_text(
-            f"[Desktop Entry]\nType=Application\nName=Tool\nExec=touch {started}\n")
+        add_entry(self.desktop, "org.example.Tool", f"touch {started}", name="Tool")
         self.resident({"action": "open_application", "customAppBundleId": "org.example.Tool"})
         self.until_applications_are_known()
         self.perform()

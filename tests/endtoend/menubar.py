@@ -60,10 +60,6 @@ class MenuBar(Session):
         self.panel = Panel(self)
         self.panel.ask("items")  # it is on the bus now
 
-    def stored(self, key):
-        file = self.desktop.config / "Tarvin" / "settings.json"
-        return json.loads(file.read_text()).get(key) if file.exists() else None
-
     def test_the_menu_is_shown_from_top_to_bottom(self):
         self.start_program("--startup")
         self.panel.until_item()
@@ -86,7 +82,7 @@ class MenuBar(Session):
         self.panel.until_line("[ ] Master Tarvin: OFF (Apple Defaults)")
         self.assertIn("~[x] Function Keys (F1–F12): ON", self.panel.lines())
         self.assertIn("~[x] Other Custom Keys: ON", self.panel.lines())
-        self.assertIs(self.stored("Tarvin_InterceptionEnabled"), False)
+        self.assertIs(self.setting("Tarvin_InterceptionEnabled"), False)
         self.press("+f5 40ms -f5")
         self.assertEqual(application.keys_pressed(1), ["F5"])
         self.panel.click("Master Tarvin: OFF (Apple Defaults)")
@@ -111,7 +107,7 @@ class MenuBar(Session):
         self.assertNotIn("Startup & Dock Behavior", self.panel.lines())
         entry = self.desktop.config / "autostart" / "tarvin.desktop"
         until("the autostart entry gone", lambda: not entry.exists() or "Hidden=true" in entry.read_text())
-        self.assertEqual(self.stored("Tarvin_StartupDockMode"), "showInDock")
+        self.assertEqual(self.setting("Tarvin_StartupDockMode"), "showInDock")
         self.panel.click("Open at Startup")
         self.panel.until_line("> [x] Show in Dock")
 
@@ -120,7 +116,7 @@ class MenuBar(Session):
         self.panel.until_item()
         self.panel.click("Hide from Dock automatically")
         self.panel.until_line("> [x] Hide from Dock automatically")
-        self.assertEqual(self.stored("Tarvin_StartupDockMode"), "hideFromDock")
+        self.assertEqual(self.setting("Tarvin_StartupDockMode"), "hideFromDock")
 
     def test_restoring_the_factory_defaults_turns_the_master_switch_off_and_keeps_the_mappings(self):
         self.map_keys(**{"global": {"F5": shortcut(5, "G")}})

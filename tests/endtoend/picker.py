@@ -24,12 +24,6 @@ class Picker(AccessibleSession):
         self.until_state(re.escape(key_name), "selected")
         self.until_there("Actions")
 
-    def type(self, text):
-        self.desktop.ask("xdotool", "type", "--delay", "15", text)
-
-    def type_key(self, name):
-        self.desktop.ask("xdotool", "key", name)
-
     def close_window(self):
         self.desktop.ask("wmctrl", "-ic", self.desktop.active_window().decode())
         until("no window", lambda: b"IsViewable" not in self.desktop.ask(

@@ -34,14 +34,20 @@ class KeyEvent:
         return f"{self.motion}{self.key}/{self.state:#x}"
 
 
+def add_entry(desktop, identifier, command, name=None, **fields):
+    """Installs an application for the user: its desktop entry, with further fields as they are called there."""
+    folder = desktop.data / "applications"
+    folder.mkdir(exist_ok=True)
+    lines = {"Type": "Application", "Name": name or identifier, "Exec": command, **fields}
+    (folder / f"{identifier}.desktop").write_text(
+        "[Desktop Entry]\n" + "".join(f"{key}={value}\n" for key, value in lines.items()))
+
+
 class Application:
     """A window that records every key event it receives. Its name is its class, its title and its desktop entry."""
 
     def __init__(self, desktop, name, place="300x200+20+20"):
-        entries = desktop.data / "applications"
-        entries.mkdir(exist_ok=True)
-        (entries / f"{name}.desktop").write_text(
-            f"[Desktop Entry]\nType=Application\nName={name}\nExec=xev\nStartupWMClass={name}\n")
+        add_entry(desktop, name, "xev", StartupWMClass=name)
         self.desktop, self.name = desktop, name
         self.record = desktop.home / f"{name}.received"
         with open(self.record, "wb") as file:
@@ -114,6 +120,10 @@ class Session(unittest.TestCase):
         folder.mkdir(mode=0o700, exist_ok=True)
         (folder / "settings.json").write_text(json.dumps(values))
 
+    def setting(self, key):
+        file = self.desktop.config / "Tarvin" / "settings.json"
+        return json.loads(file.read_text()).get(key) if file.exists() else None
+
     def log(self):
         return self.log_file.read_text() if self.log_file.exists() else ""
 
@@ -138,6 +148,12 @@ class Session(unittest.TestCase):
     def press(self, steps):
         subprocess.run([PRESS, *steps.split()], env=self.desktop.environment, check=True)
 
+    def type(self, text):
+        self.desktop.ask("xdotool", "type", "--delay", "15", text)
+
+    def type_key(self, name):
+        self.desktop.ask("xdotool", "key", name)
+
     def tap(self, key):
         """One press of a customised key that stands for itself: what comes too soon after another counts as the same."""
         before = len(self.firings())
@@ -159,4 +175,4 @@ def shortcut(key_code, display, **modifiers):
     return {"action": "keyboard_shortcut", "customShortcut": {"keyCode": key_code, "keyDisplay": display, **modifiers}}
 
 
-__all__ = ["Application", "KeyEvent", "Missing", "Session", "shortcut", "signal", "until"]
+__all__ = ["Application", "KeyEvent", "Missing", "Session", "add_entry", "shortcut", "signal", "until"]

@@ -10,7 +10,7 @@ import subprocess
 import unittest
 import wave
 
-from session import until
+from session import add_entry, until
 
 # The interpreter that the system's packages install their modules for; the search path may have another.
 SYSTEM_PYTHON = "/usr/bin/python3"
@@ -133,10 +133,7 @@ class TextField:
     """An application with a text field, which has the keyboard."""
 
     def __init__(self, desktop, name="editor"):
-        entries = desktop.data / "applications"
-        entries.mkdir(exist_ok=True)
-        (entries / f"{name}.desktop").write_text(
-            f"[Desktop Entry]\nType=Application\nName={name}\nExec=field\nStartupWMClass={name}\n")
+        add_entry(desktop, name, "field", StartupWMClass=name)
         self.desktop, self.name, self.file = desktop, name, desktop.home / f"{name}.text"
         self.process = desktop.start(os.environ["TARVIN_TEXT_FIELD_PROGRAM"], name, self.file)
         until(f"the window of {name}", lambda: self._windows().strip())

@@ -21,12 +21,6 @@ class ToolPanels(Session):
         self.map_keys(**TOOL_KEYS)
         self.desktop.ask("xdotool", "mousemove", 640, 430)
 
-    def type(self, text):
-        self.desktop.ask("xdotool", "type", "--delay", "15", text)
-
-    def type_key(self, name):
-        self.desktop.ask("xdotool", "key", name)
-
     def copy(self, text):
         """Another application copies, and goes on running to hand its text out."""
         file = self.desktop.home / "copied"
@@ -36,12 +30,8 @@ class ToolPanels(Session):
     def clipboard(self):
         return self.desktop.ask("xclip", "-selection", "clipboard", "-out").decode()
 
-    def stored(self, key):
-        file = self.desktop.config / "Tarvin" / "settings.json"
-        return json.loads(file.read_text()).get(key) if file.exists() else None
-
     def clips(self):
-        return [clip["text"] for clip in self.stored("Tarvin_ClipboardHistory_Items") or []]
+        return [clip["text"] for clip in self.setting("Tarvin_ClipboardHistory_Items") or []]
 
     def open(self, key, title):
         self.tap(key)
@@ -119,7 +109,7 @@ class ToolPanels(Session):
         self.type("buy milk")
         self.type_key("Return")
         self.type("and tea")
-        until("the stored note", lambda: self.stored("Tarvin_QuickScratchpadContent") == "buy milk\nand tea")
+        until("the stored note", lambda: self.setting("Tarvin_QuickScratchpadContent") == "buy milk\nand tea")
         self.type_key("Escape")
         self.until_closed("Quick Scratchpad")
         self.desktop.end(process)
@@ -176,7 +166,7 @@ class ToolPanels(Session):
         field.come_to_front()
         self.open("f6", "Quick Scratchpad")
         self.type("x")
-        until("the note", lambda: self.stored("Tarvin_QuickScratchpadContent") == "x")
+        until("the note", lambda: self.setting("Tarvin_QuickScratchpadContent") == "x")
         self.desktop.until_in_front("Quick Scratchpad")
 
     def test_a_captured_text_outlives_its_application(self):
@@ -202,7 +192,7 @@ class ToolPanels(Session):
         self.desktop.ask("wmctrl", "-ic", window)
         self.until_closed("Quick Scratchpad")
         self.open("f6", "Quick Scratchpad")
-        self.assertEqual(self.stored("Tarvin_QuickScratchpadContent"), "kept")
+        self.assertEqual(self.setting("Tarvin_QuickScratchpadContent"), "kept")
 
 
 if __name__ == "__main__":
