@@ -49,4 +49,19 @@ std::uint16_t XClient::deviceNamed(const std::string& name) const
     return 0;
 }
 
+std::vector<int> XClient::downKeys() const
+{
+    const XOwned<xcb_query_keymap_reply_t> reply(
+        xcb_query_keymap_reply(m_connection, xcb_query_keymap(m_connection), nullptr));
+    if (!reply)
+        throw std::runtime_error("the server does not tell its keys");
+    std::vector<int> down;
+    constexpr std::size_t bitsPerByte = 8;
+    for (std::size_t keycode = 0; keycode < sizeof reply->keys * bitsPerByte; ++keycode) {
+        if ((reply->keys[keycode / bitsPerByte] >> (keycode % bitsPerByte) & 1U) != 0)
+            down.push_back(static_cast<int>(keycode));
+    }
+    return down;
+}
+
 } // namespace tarvin::endtoend

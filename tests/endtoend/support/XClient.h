@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tarvin::endtoend {
 
@@ -33,6 +34,8 @@ public:
     [[nodiscard]] xcb_atom_t atom(const std::string& name) const;
     /// The number of the input device of that name; 0 if there is none.
     [[nodiscard]] std::uint16_t deviceNamed(const std::string& name) const;
+    /// The keycodes that are down on any keyboard.
+    [[nodiscard]] std::vector<int> downKeys() const;
 
 private:
     xcb_connection_t* m_connection;

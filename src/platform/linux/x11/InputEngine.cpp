@@ -43,8 +43,16 @@ InputEngine::~InputEngine()
 
 void InputEngine::handleEvents()
 {
+    (void)workOffEvents();
+}
+
+/// @return whether there were any
+bool InputEngine::workOffEvents()
+{
+    bool wereThere = false;
     for (;;) {
         while (const auto event = takeEvent()) {
+            wereThere = true;
             handle(*event);
             m_connection->flush();
         }
@@ -54,6 +62,7 @@ void InputEngine::handleEvents()
         refreshKeymap();
     }
     m_connection->flush();
+    return wereThere;
 }
 
 void InputEngine::settle()
@@ -342,9 +351,11 @@ void InputEngine::repost(PressId press, Keycode keycode)
 
 void InputEngine::play(const Stroke& stroke)
 {
-    if (m_isKeymapStale)
-        refreshKeymap();
-    const KeycodeSet down = downKeys();
+    // The event of a key that the server tells to be down may wait before the answer. Without it the key would count as
+    // one that nobody holds, and not be given back after the stroke.
+    KeycodeSet down = downKeys();
+    while (workOffEvents())
+        down = downKeys();
     const KeycodeSet heldByUser = m_router.heldKeys().keycodes();
     const auto momentOn = [&](const KeyboardMap& map) {
         return KeyboardMoment{.map = map, .layout = m_modifiers.layout, .down = down, .heldByUser = heldByUser};

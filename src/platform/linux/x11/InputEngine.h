@@ -65,6 +65,7 @@ public:
     [[nodiscard]] std::optional<RootPosition> pointerPosition() { return m_connection->pointerPosition(); }
 
 private:
+    bool workOffEvents();
     void handle(const ServerEvent& event);
     void handle(const GrabbedKey& grabbed);
     void handle(const RawKey& raw, RequestSequence request);

@@ -1,10 +1,12 @@
 #include "model/FKey.h"
 #include "platform/linux/x11/InputSession.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <string>
+#include <thread>
 
 namespace tarvin::x11 {
 
@@ -147,6 +149,23 @@ TEST_P(DevicePosting, aModifierPressedDuringTheStrokeIsKept)
     EXPECT_EQ(takeClientKeys(), "+leftControl +c +leftShift -leftShift -c -leftControl +leftShift");
     keyboard->release(KEY_LEFTSHIFT);
     EXPECT_EQ(takeClientKeys(), "-leftShift");
+}
+
+TEST_P(DevicePosting, aModifierPressedAtTheVeryMomentOfAStrokeIsKept)
+{
+    const endtoend::XClient observer(server->display());
+    constexpr int turns = 200;
+    for (int turn = 0; turn < turns; ++turn) {
+        post(keyC, KeyState::down, control);
+        thread->settle();
+        // Waits for nobody: the server and the input thread come to know of both as it happens.
+        std::thread user([this] { keyboard->press(KEY_LEFTSHIFT); });
+        post(keyC, KeyState::up, control);
+        user.join();
+        settle();
+        ASSERT_THAT(observer.downKeys(), ::testing::ElementsAre(KEY_LEFTSHIFT + keycodeOffset)) << turn;
+        keyboard->release(KEY_LEFTSHIFT);
+    }
 }
 
 TEST_P(DevicePosting, strokesOfBothRoadsStayInOrder)
