@@ -115,6 +115,7 @@ Platform LinuxDesktop::ports()
         .userEnvironment = userEnvironment,
         .keyRecording = keyRecording,
         .applicationFolders = applicationFolders,
+        .applicationChooser = applicationChooser,
     };
 }
 

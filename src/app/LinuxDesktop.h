@@ -11,6 +11,7 @@
 #include "platform/linux/desktop/LinuxPermission.h"
 #include "platform/linux/desktop/LinuxProcessInfo.h"
 #include "platform/linux/desktop/LinuxScripts.h"
+#include "platform/linux/desktop/NoApplicationChooser.h"
 #include "platform/linux/desktop/NoHaptics.h"
 #include "platform/linux/desktop/QtAppShell.h"
 #include "platform/linux/desktop/QtScheduler.h"
@@ -76,6 +77,7 @@ public:
     desktop::QtAppShell shell;
     desktop::InstalledApplications applications;
     desktop::DesktopApplicationFolders applicationFolders;
+    desktop::NoApplicationChooser applicationChooser;
     desktop::EwmhWorkspace workspace;
     x11::X11EventPoster poster;
     x11::X11Pointer pointer;

@@ -45,6 +45,7 @@ Platform MacDesktop::ports()
         .userEnvironment = userEnvironment,
         .keyRecording = keyRecording,
         .applicationFolders = applicationFolders,
+        .applicationChooser = applicationChooser,
     };
 }
 

@@ -2,6 +2,7 @@
 
 #include "app/DrawnToolPanels.h"
 #include "platform/macos/MacAppleMenu.h"
+#include "platform/macos/MacApplicationChooser.h"
 #include "platform/macos/MacApplicationControl.h"
 #include "platform/macos/MacApplicationFolders.h"
 #include "platform/macos/MacDisplayBrightness.h"
@@ -78,6 +79,7 @@ public:
     macos::MacScreens screens;
     macos::MacApplicationControl applicationControl;
     macos::MacApplicationFolders applicationFolders;
+    macos::MacApplicationChooser applicationChooser;
     macos::MacPasteboard pasteboard;
 };
 

@@ -4,6 +4,7 @@ namespace tarvin {
 
 class AppShell;
 class AppleMenu;
+class ApplicationChooser;
 class ApplicationControl;
 class ApplicationFolders;
 class Console;
@@ -66,6 +67,7 @@ struct Platform
     UserEnvironment& userEnvironment;
     KeyRecording& keyRecording;
     ApplicationFolders& applicationFolders;
+    ApplicationChooser& applicationChooser;
 };
 
 } // namespace tarvin

@@ -58,7 +58,8 @@ Platform SimulatedPlatform::ports()
         .pasteboard = m_pasteboard,
         .userEnvironment = m_userEnvironment,
         .keyRecording = m_keyRecording,
-        .applicationFolders = m_applicationFolders};
+        .applicationFolders = m_applicationFolders,
+        .applicationChooser = m_applicationChooser};
 }
 
 } // namespace tarvin::simulated

@@ -4,6 +4,7 @@
 #include "platform/simulated/EffectLog.h"
 #include "platform/simulated/SimulatedAppShell.h"
 #include "platform/simulated/SimulatedAppleMenu.h"
+#include "platform/simulated/SimulatedApplicationChooser.h"
 #include "platform/simulated/SimulatedApplicationControl.h"
 #include "platform/simulated/SimulatedApplicationFolders.h"
 #include "platform/simulated/SimulatedConsole.h"
@@ -75,6 +76,7 @@ public:
     [[nodiscard]] SimulatedUserEnvironment& userEnvironment() { return m_userEnvironment; }
     [[nodiscard]] SimulatedKeyRecording& keyRecording() { return m_keyRecording; }
     [[nodiscard]] SimulatedApplicationFolders& applicationFolders() { return m_applicationFolders; }
+    [[nodiscard]] SimulatedApplicationChooser& applicationChooser() { return m_applicationChooser; }
 
 private:
     SimulatedScheduler m_scheduler;
@@ -108,6 +110,7 @@ private:
     SimulatedUserEnvironment m_userEnvironment;
     SimulatedKeyRecording m_keyRecording;
     SimulatedApplicationFolders m_applicationFolders;
+    SimulatedApplicationChooser m_applicationChooser;
 };
 
 } // namespace tarvin::simulated

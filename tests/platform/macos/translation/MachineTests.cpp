@@ -1,5 +1,8 @@
 #include "platform/macos/translation/BrightnessReader.h"
+#include "platform/macos/translation/OpenPanelAnswer.h"
 #include "platform/macos/translation/PowerRecord.h"
+
+#include "support/QtPrinters.h"
 
 #include <gtest/gtest.h>
 
@@ -27,6 +30,15 @@ TEST(PowerRecord, whatIsNotToldStaysUnknown)
     const PowerSource silent = powerSourceOf({});
     EXPECT_EQ(silent.currentCapacity, std::nullopt);
     EXPECT_EQ(silent.isCharging, std::nullopt);
+}
+
+TEST(OpenPanelAnswer, onlyAConfirmedPathIsChosen)
+{
+    const std::optional<QString> paint = QStringLiteral("/Applications/Paint.app");
+    EXPECT_EQ(chosenPath(confirmedResponse, paint), paint);
+    EXPECT_EQ(chosenPath(confirmedResponse, std::nullopt), std::nullopt);
+    EXPECT_EQ(chosenPath(0, paint), std::nullopt) << "cancelled";
+    EXPECT_EQ(chosenPath(-1000, paint), std::nullopt) << "ended by the system";
 }
 
 } // namespace

@@ -5,7 +5,7 @@
 
 #include <sys/types.h>
 
-@class NSEvent, NSWindow;
+@class NSEvent, NSWindow, UTType;
 
 @interface NSColor : NSObject
 @property (class, readonly) NSColor* clearColor;
@@ -25,6 +25,7 @@
 typedef NSUInteger NSWindowStyleMask;
 typedef NSUInteger NSWindowCollectionBehavior;
 typedef NSInteger NSWindowLevel;
+enum : NSWindowLevel { NSModalPanelWindowLevel = 8 };
 enum : NSWindowStyleMask { NSWindowStyleMaskNonactivatingPanel = 128 };
 enum : NSWindowCollectionBehavior {
     NSWindowCollectionBehaviorCanJoinAllSpaces = 1,
@@ -57,6 +58,26 @@ enum : NSWindowCollectionBehavior {
 
 @interface NSPanel : NSWindow
 @property (getter=isFloatingPanel) BOOL floatingPanel;
+@end
+
+typedef NSInteger NSModalResponse;
+enum : NSModalResponse { NSModalResponseOK = 1 };
+
+@interface NSSavePanel : NSPanel
+@property (readonly, copy) NSURL* URL;
+@property (copy) NSURL* directoryURL;
+@property (copy) NSString* title;
+@property (copy) NSString* message;
+@property (copy) NSArray<UTType*>* allowedContentTypes;
+- (void)beginWithCompletionHandler:(void (^)(NSModalResponse response))handler;
+- (void)cancel:(id)sender;
+@end
+
+@interface NSOpenPanel : NSSavePanel
++ (NSOpenPanel*)openPanel;
+@property BOOL canChooseFiles;
+@property BOOL canChooseDirectories;
+@property BOOL allowsMultipleSelection;
 @end
 
 @interface NSAnimationContext : NSObject
