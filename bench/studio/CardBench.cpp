@@ -62,8 +62,11 @@ private:
     KeyProfile m_profile{m_platform.files(), m_platform.preferences(), m_platform.workspace(), m_platform.console(),
         m_platform.uuids(), [](KeyAction) {}};
     KeyRecord m_record{FKey::f5, m_profile};
-    OpenApplicationCard m_openApplication{
-        m_record, m_platform.applicationFolders(), m_platform.applicationControl(), m_platform.scheduler()};
+    OpenApplicationCard m_openApplication{m_record,
+        {.folders = m_platform.applicationFolders(),
+            .applications = m_platform.applicationControl(),
+            .chooser = m_platform.applicationChooser(),
+            .scheduler = m_platform.scheduler()}};
     ShortcutRecorder m_recorder{shortcutBinding(m_record),
         {.keyRecording = m_platform.keyRecording(),
             .uuids = m_platform.uuids(),

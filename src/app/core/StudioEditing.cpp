@@ -27,8 +27,11 @@ std::unique_ptr<KeyEditing> StudioEditing::editKey(FKey key) const
                                                               .usageTracker = m_objects.actionUsageTracker(),
                                                               .executor = m_objects.actionExecutor(),
                                                               .scheduler = m_platform.scheduler}),
-        .openApplication = OpenApplicationCard(
-            record, m_platform.applicationFolders, m_platform.applicationControl, m_platform.scheduler),
+        .openApplication = OpenApplicationCard(record,
+            {.folders = m_platform.applicationFolders,
+                .applications = m_platform.applicationControl,
+                .chooser = m_platform.applicationChooser,
+                .scheduler = m_platform.scheduler}),
         .recorder = ShortcutRecorder(shortcutBinding(record),
             {.keyRecording = m_platform.keyRecording,
                 .uuids = m_platform.uuids,

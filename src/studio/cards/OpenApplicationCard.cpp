@@ -8,12 +8,10 @@
 
 namespace tarvin {
 
-OpenApplicationCard::OpenApplicationCard(const KeyRecord& record, const ApplicationFolders& folders,
-    const ApplicationControl& applications, Scheduler& scheduler)
+OpenApplicationCard::OpenApplicationCard(const KeyRecord& record, Collaborators collaborators)
     : m_record(record)
-    , m_folders(folders)
-    , m_applications(applications)
-    , m_list(scheduler, [&folders] { return applicationsToOpen(folders); })
+    , m_with(collaborators)
+    , m_list(m_with.scheduler, [&folders = m_with.folders] { return applicationsToOpen(folders); })
 {
     connect(&m_list, &ApplicationList::loaded, this, &OpenApplicationCard::changed);
 }
@@ -32,9 +30,9 @@ QString OpenApplicationCard::applicationName() const
 std::optional<QString> OpenApplicationCard::resolvedAppPath() const
 {
     const ConfiguredAction config = m_record.config();
-    if (config.customAppPath && m_applications.exists(*config.customAppPath))
+    if (config.customAppPath && m_with.applications.exists(*config.customAppPath))
         return config.customAppPath;
-    return config.customAppBundleId ? m_applications.pathOfApplication(*config.customAppBundleId) : std::nullopt;
+    return config.customAppBundleId ? m_with.applications.pathOfApplication(*config.customAppBundleId) : std::nullopt;
 }
 
 QString OpenApplicationCard::resolvedAppIcon() const
@@ -46,7 +44,7 @@ QString OpenApplicationCard::resolvedAppIcon() const
     const auto known = std::ranges::find(installed, *path, &InstalledApplication::path);
     if (known != installed.end())
         return known->icon;
-    const std::optional<ApplicationBundle> bundle = m_folders.bundleAt(*path);
+    const std::optional<ApplicationBundle> bundle = m_with.folders.bundleAt(*path);
     return bundle ? bundle->icon : QString();
 }
 
@@ -98,9 +96,23 @@ void OpenApplicationCard::choose(const InstalledApplication& application)
     Q_EMIT changed();
 }
 
+bool OpenApplicationCard::browse()
+{
+    if (m_dialog)
+        return true;
+    m_dialog = m_with.chooser.open(
+        {.title = fileDialogTitle.toString(), .message = fileDialogMessage(), .startFolder = browsing().startFolder},
+        [this](const std::optional<QString>& path) {
+            m_dialog.reset();
+            if (path)
+                chooseFile(*path);
+        });
+    return m_dialog != nullptr;
+}
+
 void OpenApplicationCard::chooseFile(const QString& path)
 {
-    if (const std::optional<InstalledApplication> application = applicationAt(m_folders, path))
+    if (const std::optional<InstalledApplication> application = applicationAt(m_with.folders, path))
         choose(*application);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ports/ApplicationChooser.h"
 #include "platform/ports/ApplicationFolders.h"
 #include "studio/applications/ApplicationList.h"
 #include "studio/cards/KeyRecord.h"
@@ -7,6 +8,7 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
 #include <optional>
 
 namespace tarvin {
@@ -27,8 +29,15 @@ public:
     static constexpr QStringView searchPrompt = u"Search installed apps...";
     static constexpr QStringView fileDialogTitle = u"Select Application";
 
-    OpenApplicationCard(const KeyRecord& record, const ApplicationFolders& folders,
-        const ApplicationControl& applications, Scheduler& scheduler);
+    struct Collaborators
+    {
+        const ApplicationFolders& folders;
+        const ApplicationControl& applications;
+        ApplicationChooser& chooser;
+        Scheduler& scheduler;
+    };
+
+    OpenApplicationCard(const KeyRecord& record, Collaborators collaborators);
 
     /// What the card does when it is first shown: reads what is installed.
     void load() { m_list.load(); }
@@ -43,7 +52,7 @@ public:
     [[nodiscard]] QStringView changeSymbol() const;
     [[nodiscard]] QString fileDialogMessage() const;
     /// Where the file dialog begins and what it offers.
-    [[nodiscard]] ApplicationBrowsing browsing() const { return m_folders.browsing(); }
+    [[nodiscard]] ApplicationBrowsing browsing() const { return m_with.folders.browsing(); }
 
     /// Whether the list is there: asked for, or needed because nothing is chosen yet.
     [[nodiscard]] bool showsList() const { return m_isPickerPresented || !hasApplication(); }
@@ -58,7 +67,11 @@ public:
 
     /// Makes the key open the application, and closes the list.
     void choose(const InstalledApplication& application);
-    /// The same for what the user found by the file dialog; nothing for what has no bundle identifier.
+    /// Opens the system's own dialog for an application, unless it is open. What the user chooses there is written; the
+    /// dialog goes away with the card.
+    /// @return whether the system has one; where it has none, a dialog of the view's serves, and `chooseFile`
+    [[nodiscard]] bool browse();
+    /// The same as `choose` for what the user found by a file dialog; nothing for what has no bundle identifier.
     void chooseFile(const QString& path);
 
 Q_SIGNALS:
@@ -67,11 +80,11 @@ Q_SIGNALS:
 
 private:
     KeyRecord m_record;
-    const ApplicationFolders& m_folders;
-    const ApplicationControl& m_applications;
+    Collaborators m_with;
     ApplicationList m_list;
     QString m_searchText;
     bool m_isPickerPresented = false;
+    std::unique_ptr<ApplicationDialog> m_dialog; ///< while it is open
 };
 
 } // namespace tarvin

@@ -64,6 +64,16 @@ TEST_F(Editing, anApplicationIsChosenFromTheList)
     EXPECT_EQ(objects.keyProfile().actionConfig(FKey::f5).displayTitle(), u"Open Application (Paint)");
 }
 
+TEST_F(Editing, anApplicationIsChosenInTheDialogOfTheSystem)
+{
+    platform.applicationFolders().install(ApplicationFolder::applications,
+        {.path = QStringLiteral("/Applications/Paint.app"), .bundleIdentifier = QStringLiteral("org.example.paint")});
+    const auto f5 = editing.editKey(FKey::f5);
+    EXPECT_TRUE(f5->openApplication.browse());
+    platform.applicationChooser().choose(QStringLiteral("/Applications/Paint.app"));
+    EXPECT_EQ(objects.keyProfile().actionConfig(FKey::f5).displayTitle(), u"Open Application (Paint)");
+}
+
 TEST_F(Editing, bothSheetsEditTheSharedObjects)
 {
     int closings = 0;

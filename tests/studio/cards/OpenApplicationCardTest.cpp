@@ -34,7 +34,16 @@ protected:
     }
 
     simulated::SimulatedApplicationFolders folders;
-    OpenApplicationCard card{record, folders, desktop.applicationControl(), desktop.scheduler()};
+    [[nodiscard]] OpenApplicationCard::Collaborators collaborators()
+    {
+        return {.folders = folders,
+            .applications = desktop.applicationControl(),
+            .chooser = chooser,
+            .scheduler = desktop.scheduler()};
+    }
+
+    simulated::SimulatedApplicationChooser& chooser = desktop.applicationChooser();
+    OpenApplicationCard card{record, collaborators()};
 };
 
 TEST_F(OpenApplication, theListIsReadOnceAndOffTheMainThread)
@@ -113,6 +122,59 @@ TEST_F(OpenApplication, aFileIsChosenIfItIsAnApplicationWithAnIdentifier)
     EXPECT_EQ(card.applicationName(), u"Paint");
 }
 
+TEST_F(OpenApplication, theSystemsDialogIsToldWhatItIsFor)
+{
+    EXPECT_TRUE(card.browse());
+    EXPECT_EQ(chooser.request(),
+        (ApplicationRequest{.title = u"Select Application"_qs,
+            .message = u"Choose an application to assign to F5"_qs,
+            .startFolder = u"/Applications"_qs}));
+}
+
+TEST_F(OpenApplication, whatIsChosenInTheSystemsDialogIsWritten)
+{
+    EXPECT_TRUE(card.browse());
+    chooser.choose(u"/Applications/Paint.app"_qs);
+    EXPECT_EQ(config().action, KeyAction::openApplication);
+    EXPECT_EQ(config().customAppName, u"Paint");
+    EXPECT_EQ(config().customAppBundleId, u"org.example.paint");
+    EXPECT_EQ(config().customAppPath, u"/Applications/Paint.app");
+}
+
+TEST_F(OpenApplication, aCancelledDialogChangesNothingAndMayBeOpenedAgain)
+{
+    EXPECT_TRUE(card.browse());
+    const test::SignalCount changes(card, &OpenApplicationCard::changed);
+    chooser.cancel();
+    EXPECT_FALSE(profile().isCustomized(FKey::f5));
+    EXPECT_EQ(changes.count(), 0);
+    EXPECT_TRUE(card.browse());
+    EXPECT_EQ(chooser.openCount(), 2);
+}
+
+TEST_F(OpenApplication, oneDialogIsOpenAtATime)
+{
+    EXPECT_TRUE(card.browse());
+    EXPECT_TRUE(card.browse());
+    EXPECT_EQ(chooser.openCount(), 1);
+}
+
+TEST_F(OpenApplication, theDialogGoesWithTheCard)
+{
+    auto gone = std::make_unique<OpenApplicationCard>(record, collaborators());
+    EXPECT_TRUE(gone->browse());
+    gone.reset();
+    EXPECT_EQ(chooser.request(), std::nullopt);
+    chooser.choose(u"/Applications/Paint.app"_qs);
+    EXPECT_FALSE(profile().isCustomized(FKey::f5));
+}
+
+TEST_F(OpenApplication, withoutADialogOfTheSystemTheViewIsToldSo)
+{
+    chooser.setMissing(true);
+    EXPECT_FALSE(card.browse());
+}
+
 TEST_F(OpenApplication, theIconIsThatOfThePathOrOfTheIdentifier)
 {
     load();
@@ -146,8 +208,7 @@ TEST_F(OpenApplication, theIconIsKnownFromTheListOrReadWhereTheApplicationLies)
 
 TEST_F(OpenApplication, aScanMayOutliveTheCard)
 {
-    auto gone =
-        std::make_unique<OpenApplicationCard>(record, folders, desktop.applicationControl(), desktop.scheduler());
+    auto gone = std::make_unique<OpenApplicationCard>(record, collaborators());
     gone->load();
     gone.reset();
     desktop.scheduler().runPosted();

@@ -190,14 +190,14 @@ void OpenApplicationBody::refreshList()
 
 void OpenApplicationBody::browse()
 {
-    if (m_fileDialog)
+    if (m_fileDialog || m_card.browse())
         return;
     const ApplicationBrowsing browsing = m_card.browsing();
     m_fileDialog = new QFileDialog(this, OpenApplicationCard::fileDialogTitle.toString(), browsing.startFolder,
         QStringLiteral("*.%1").arg(browsing.suffix));
     m_fileDialog->setAttribute(Qt::WA_DeleteOnClose);
     m_fileDialog->setFileMode(QFileDialog::ExistingFile);
-    // The system's own dialog has no place for the message.
+    // What the toolkit makes of a native dialog has no place for the message.
     m_fileDialog->setOption(QFileDialog::DontUseNativeDialog);
     if (auto* const grid = qobject_cast<QGridLayout*>(m_fileDialog->layout()))
         grid->addWidget(new QLabel(m_card.fileDialogMessage()), grid->rowCount(), 0, 1, grid->columnCount());

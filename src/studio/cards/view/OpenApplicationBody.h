@@ -25,7 +25,7 @@ class OpenApplicationBody : public QWidget
 public:
     OpenApplicationBody(const KeyRecord& record, OpenApplicationCard& card, ApplicationIcons& icons, QWidget* parent);
 
-    /// The file dialog, while it is open.
+    /// The file dialog while it is open, where the system has none of its own.
     [[nodiscard]] QFileDialog* fileDialog() const { return m_fileDialog; }
 
 protected:

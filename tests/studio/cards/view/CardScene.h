@@ -36,8 +36,11 @@ public:
     KeyProfile profile{platform.files(), platform.preferences(), platform.workspace(), platform.console(),
         platform.uuids(), [](KeyAction) {}};
     KeyRecord record{FKey::f5, profile};
-    OpenApplicationCard openApplication{
-        record, platform.applicationFolders(), platform.applicationControl(), platform.scheduler()};
+    OpenApplicationCard openApplication{record,
+        {.folders = platform.applicationFolders(),
+            .applications = platform.applicationControl(),
+            .chooser = platform.applicationChooser(),
+            .scheduler = platform.scheduler()}};
     QList<QList<CustomShortcut>> played;
     ShortcutRecorder recorder{shortcutBinding(record),
         {.keyRecording = platform.keyRecording(),

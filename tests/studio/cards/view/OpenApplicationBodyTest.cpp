@@ -144,8 +144,22 @@ TEST_F(OpenApplicationBodyTest, theSearchIsThatOfTheCardAndNotOfTheBody)
     EXPECT_EQ(names(), QStringList{u"Paint"_qs});
 }
 
-TEST_F(OpenApplicationBodyTest, browseOffersTheFilesOfThePlatform)
+TEST_F(OpenApplicationBodyTest, browseUsesTheDialogOfTheSystem)
 {
+    show();
+    buttonNamed(*body, u"Browse..."_qs).click();
+    buttonNamed(*body, u"Browse..."_qs).click();
+    EXPECT_EQ(body->fileDialog(), nullptr);
+    EXPECT_EQ(scene.platform.applicationChooser().openCount(), 1);
+    scene.platform.applicationChooser().choose(u"/Applications/Paint.app"_qs);
+    EXPECT_EQ(scene.config().customAppPath, u"/Applications/Paint.app");
+    EXPECT_FALSE(list().isVisible());
+    EXPECT_THAT(test::shownTexts(*body), Contains(u"Paint"_qs));
+}
+
+TEST_F(OpenApplicationBodyTest, withoutADialogOfTheSystemBrowseOffersTheFilesOfThePlatform)
+{
+    scene.platform.applicationChooser().setMissing(true);
     show();
     buttonNamed(*body, u"Browse..."_qs).click();
     ASSERT_NE(body->fileDialog(), nullptr);
