@@ -99,7 +99,7 @@ void showUntilPainted(StudioWindow& window)
     const PaintWatch watch(window.content().body().keyboard());
     window.show();
     while (!watch.isPainted)
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 /// Once per process: fonts, symbols, shadows and the window are made.
@@ -185,11 +185,11 @@ void openPicker(benchmark::State& state)
         keyboard.setSelectedKey(FKey::f5);
         const PaintWatch watch(*window->content().actionPicker());
         while (!watch.isPainted)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         state.PauseTiming();
         keyboard.setSelectedKey(std::nullopt);
         while (window->content().actionPicker())
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
         state.ResumeTiming();
     }
 }

@@ -151,7 +151,10 @@ void MainContentView::layOut()
     m_footer->setGeometry(0, height() - BottomFooterBar::barHeight, column, BottomFooterBar::barHeight);
     m_scroll->setGeometry(0, y, column, height() - BottomFooterBar::barHeight - y);
     fitBody();
-    update();
+    // A pane that waits beyond the edge for its way in changes nothing in sight.
+    if (column != m_columnWidth)
+        update();
+    m_columnWidth = column;
 }
 
 void MainContentView::fitBody()

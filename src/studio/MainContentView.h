@@ -62,6 +62,7 @@ private:
     QPointer<QWidget> m_picker;
     std::optional<FKey> m_pickerKey; ///< that the pane edits, also while it slides out
     AnimatedValue m_pickerShare; ///< how much of the pane has slid in, from 0 to 1
+    int m_columnWidth = 0; ///< of everything but the pane
 };
 
 } // namespace tarvin
