@@ -19,6 +19,8 @@ inline constexpr QStringView pressKey = u"Press key...";
 inline constexpr QStringView reRecordTooltip = u"Re-record this key";
 inline constexpr QStringView removeTooltip = u"Remove this key";
 inline constexpr QStringView presetsHeading = u"QUICK MULTI-KEY PRESETS";
+inline constexpr QStringView keyboardRefused =
+    u"Another program has the keyboard. Close its menu or dialog, then try again.";
 inline constexpr QStringView hint =
     u"Tip: Add 2, 3, or more keys. Set to 'All at once' to trigger all keys simultaneously when clicked.";
 

@@ -79,6 +79,7 @@ void ShortcutRecorder::startRecording(State state, qsizetype index)
     endRecording();
     m_session = m_with.keyRecording.start(
         [this](const PressedKey& key) { return handleKey(key); }, [this] { stopRecording(); });
+    m_isKeyboardRefused = !m_session;
     if (m_session) {
         m_state = state;
         m_targetIndex = index;
@@ -171,6 +172,7 @@ void ShortcutRecorder::setPlaybackMode(MultiKeyPlaybackMode mode)
 
 void ShortcutRecorder::save()
 {
+    m_isKeyboardRefused = false;
     m_binding.onSave();
     Q_EMIT changed();
 }

@@ -78,6 +78,8 @@ public:
     [[nodiscard]] bool showsPlaybackMode() const { return shortcuts().size() >= 2; }
     /// The words on the strip that shows while recording.
     [[nodiscard]] QStringView bannerText() const;
+    /// Whether the last recording that the user wanted could not begin.
+    [[nodiscard]] bool isKeyboardRefused() const { return m_isKeyboardRefused; }
     [[nodiscard]] bool offersSequence() const { return !isRecording(); }
     [[nodiscard]] bool offersClear() const { return !isRecording() && !shortcuts().isEmpty(); }
     [[nodiscard]] bool offersTest() const { return !isRecording() && !shortcuts().isEmpty(); }
@@ -118,6 +120,7 @@ private:
     qsizetype m_targetIndex = 0; ///< of `reRecording`
     int m_recordingNumber = 0;
     std::unique_ptr<KeyRecordingSession> m_session;
+    bool m_isKeyboardRefused = false;
     std::optional<QString> m_testFeedback;
     /// Held weakly by calls that are still to come.
     std::shared_ptr<ShortcutRecorder*> m_self = std::make_shared<ShortcutRecorder*>(this);

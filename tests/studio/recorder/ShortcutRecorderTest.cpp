@@ -236,12 +236,25 @@ TEST_F(Recorder, withoutAKeyboardItStaysIdle)
     keyboard.setRefusing(true);
     recorder->recordOne();
     EXPECT_EQ(recorder->state(), State::idle);
+    EXPECT_TRUE(recorder->isKeyboardRefused());
     keyboard.setRefusing(false);
     recorder->recordSequence();
     keyboard.setRefusing(true);
     recorder->recordOne();
     EXPECT_EQ(recorder->state(), State::idle);
     EXPECT_FALSE(keyboard.isRecording());
+}
+
+TEST_F(Recorder, theRefusalIsForgottenWithTheNextRecordingOrChange)
+{
+    keyboard.setRefusing(true);
+    recorder->recordOne();
+    recorder->apply(shortcutPresets[3]);
+    EXPECT_FALSE(recorder->isKeyboardRefused());
+    recorder->recordOne();
+    keyboard.setRefusing(false);
+    recorder->recordOne();
+    EXPECT_FALSE(recorder->isKeyboardRefused());
 }
 
 TEST_F(Recorder, stoppingWhileIdleChangesNothing)

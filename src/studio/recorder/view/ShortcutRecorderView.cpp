@@ -12,6 +12,7 @@
 #include "ui/TextBlock.h"
 #include "ui/TextLabel.h"
 
+#include <QAccessible>
 #include <QVBoxLayout>
 
 namespace tarvin {
@@ -78,6 +79,7 @@ constexpr ButtonLook testLook{.height = 22,
     .stroke = mintTeal.at(0.35)};
 
 constexpr TextStyle presetsHeadingText{.size = 8.5, .weight = TextWeight::bold, .face = TextFace::rounded};
+constexpr TextStyle refusalText{.size = 10, .weight = TextWeight::medium, .face = TextFace::rounded};
 constexpr TextStyle hintText{.size = 9.5, .weight = TextWeight::regular, .face = TextFace::rounded};
 
 } // namespace
@@ -91,6 +93,7 @@ ShortcutRecorderView::ShortcutRecorderView(ShortcutRecorder& recorder, QWidget* 
     , m_add(new OutlinedButton(addLook))
     , m_sequence(new OutlinedButton(sequenceLook))
     , m_clear(new OutlinedButton(clearLook))
+    , m_refusal(new TextBlock(recorder_texts::keyboardRefused.toString(), refusalText, palette::orange))
     , m_test(new ConfirmButton(testLook, {.confirming = feedbackMotion, .returning = feedbackMotion}))
 {
     connect(m_mode, &PlaybackModeSelector::modeChosen, &recorder, &ShortcutRecorder::setPlaybackMode);
@@ -117,12 +120,14 @@ ShortcutRecorderView::ShortcutRecorderView(ShortcutRecorder& recorder, QWidget* 
     presets->addWidget(new TextLabel(recorder_texts::presetsHeading.toString(), presetsHeadingText, white.at(0.35)));
     presets->addWidget(strip);
     auto* const hint = new TextBlock(recorder_texts::hint.toString(), hintText, white.at(0.42));
-    hint->setContentsMargins(2, 2, 2, 2);
+    for (TextBlock* const text : {m_refusal, hint})
+        text->setContentsMargins(2, 2, 2, 2);
 
     m_column->setContentsMargins(inset, inset, inset, inset);
     m_column->addWidget(m_mode);
     m_column->addWidget(m_banner);
     m_column->addLayout(actions);
+    m_column->addWidget(m_refusal);
     m_column->addLayout(presets);
     m_column->addWidget(m_test);
     m_column->addWidget(hint);
@@ -176,6 +181,7 @@ void ShortcutRecorderView::refresh()
     m_banner->setText(m_recorder->bannerText().toString());
     m_banner->setVisible(m_recorder->isRecording());
     refreshActions();
+    refreshRefusal();
     // What had the focus may have gone; then it is for what ends the recording, or for what begins another.
     if (isAncestorOf(focused) && !focused->isVisibleTo(this))
         (m_recorder->isRecording() ? m_banner->doneButton() : *m_add).setFocus(Qt::OtherFocusReason);
@@ -207,6 +213,16 @@ void ShortcutRecorderView::refreshActions()
     m_test->setVisible(m_recorder->offersTest());
     m_test->showText(m_recorder->testText(),
         m_recorder->hasTestFeedback() ? ConfirmButton::Says::confirmation : ConfirmButton::Says::offer);
+}
+
+void ShortcutRecorderView::refreshRefusal()
+{
+    const bool isNew = m_recorder->isKeyboardRefused() && m_refusal->isHidden();
+    m_refusal->setVisible(m_recorder->isKeyboardRefused());
+    if (isNew) {
+        QAccessibleEvent alert(m_refusal, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
 }
 
 KeyRow& ShortcutRecorderView::rowAt(std::size_t index)

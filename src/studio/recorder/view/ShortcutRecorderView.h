@@ -15,6 +15,7 @@ class OutlinedButton;
 class PlaybackModeSelector;
 class RecordingBanner;
 class SpringColumn;
+class TextBlock;
 
 /// Shows the recorded keys and records others. A recording that was begun here ends when the view disappears.
 class ShortcutRecorderView : public QWidget
@@ -36,6 +37,7 @@ private:
     void endOwnRecording();
     void refreshRows();
     void refreshActions();
+    void refreshRefusal();
     [[nodiscard]] KeyRow& rowAt(std::size_t index);
 
     /// An owner may let the recorder go first.
@@ -48,6 +50,7 @@ private:
     OutlinedButton* m_add;
     OutlinedButton* m_sequence;
     OutlinedButton* m_clear;
+    TextBlock* m_refusal; ///< of the keyboard
     ConfirmButton* m_test;
 };
 

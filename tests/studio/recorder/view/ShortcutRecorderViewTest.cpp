@@ -277,12 +277,18 @@ TEST_F(RecorderView, theRecorderMayGoBeforeTheView)
     EXPECT_EQ(list.size(), 3);
 }
 
-TEST_F(RecorderView, withoutAKeyboardItStaysAsItIs)
+TEST_F(RecorderView, withoutAKeyboardItStaysAsItIsAndSaysWhy)
 {
+    const QString refusal = recorder_texts::keyboardRefused.toString();
+    EXPECT_THAT(shownTexts(*view), Not(Contains(refusal)));
     keyboard.setRefusing(true);
     click(addFirst);
+    EXPECT_THAT(shownTexts(*view), Contains(refusal));
     EXPECT_FALSE(hasButton(*view, u"Done"_qs));
     EXPECT_TRUE(hasButton(*view, sequence));
+    keyboard.setRefusing(false);
+    click(addFirst);
+    EXPECT_THAT(shownTexts(*view), Not(Contains(refusal)));
 }
 
 TEST_F(RecorderView, whatOthersChangeIsShownWhenAskedFor)
