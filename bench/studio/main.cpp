@@ -2,17 +2,13 @@
 // and its action picker: until it shows, a keystroke in its search, a step of its list. Run without a display it draws
 // into memory; with QT_QPA_PLATFORM=xcb and DISPLAY it shows real windows.
 
-#include "app/StudioPicker.h"
+#include "app/StudioEditors.h"
+#include "app/StudioMaking.h"
 #include "app/core/NoToolPanelWindows.h"
 #include "app/core/SharedObjects.h"
-#include "interception/AccessibilityHelper.h"
 #include "interception/EventTapManager.h"
-#include "interception/FnKeyModeHelper.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "profiles/KeyProfile.h"
-#include "shell/BackgroundModeManager.h"
-#include "shell/BatteryHelper.h"
-#include "shell/KeyboardTactileEngine.h"
 #include "studio/StudioBody.h"
 #include "studio/StudioWindow.h"
 #include "studio/keyboard/KeyButton.h"
@@ -48,33 +44,18 @@ public:
 
     std::unique_ptr<StudioWindow> makeWindow()
     {
-        return std::make_unique<StudioWindow>(StudioCollaborators{.keyProfile = m_objects.keyProfile(),
-                                                  .eventTapManager = m_objects.eventTapManager(),
-                                                  .fnKeyModeHelper = m_objects.fnKeyModeHelper(),
-                                                  .batteryHelper = m_objects.batteryHelper(),
-                                                  .tactileEngine = m_objects.keyboardTactileEngine(),
-                                                  .backgroundModeManager = m_objects.backgroundModeManager(),
-                                                  .accessibilityHelper = m_objects.accessibilityHelper(),
-                                                  .openKeyboardSettings = [] {}},
-            surfaces());
+        return makeStudioWindow(m_objects, m_editors.surfaces(), [] {});
     }
     QWidget* makePicker(FKey key)
     {
-        return m_picker.makePane(key, [] {});
+        return m_editors.surfaces().makeActionPicker(key, [] {});
     }
 
 private:
-    StudioSurfaces surfaces()
-    {
-        StudioSurfaces surfaces;
-        m_picker.addTo(surfaces);
-        return surfaces;
-    }
-
     simulated::SimulatedPlatform m_platform;
     NoToolPanelWindows m_panels;
     SharedObjects m_objects{m_platform.ports(), m_panels};
-    StudioPicker m_picker{m_platform.ports(), m_objects};
+    StudioEditors m_editors{m_platform.ports(), m_objects};
 };
 
 /// Tells when a widget has been painted.

@@ -5,6 +5,7 @@
 #include "app/DrawnToolPanels.h"
 #include "app/LinuxDesktop.h"
 #include "app/ProgramCommands.h"
+#include "app/StudioEditors.h"
 #include "app/StudioMaking.h"
 #include "app/core/SharedObjects.h"
 #include "interception/EventTapManager.h"

@@ -6,6 +6,7 @@
 #include "app/DrawnToolPanels.h"
 #include "app/MacDesktop.h"
 #include "app/ProgramCommands.h"
+#include "app/StudioEditors.h"
 #include "app/StudioMaking.h"
 #include "app/core/SharedObjects.h"
 #include "menubar/MenuBarItem.h"

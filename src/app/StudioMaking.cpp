@@ -11,14 +11,6 @@
 
 namespace tarvin {
 
-StudioSurfaces StudioEditors::surfaces()
-{
-    StudioSurfaces surfaces;
-    m_picker.addTo(surfaces);
-    m_sheets.addTo(surfaces);
-    return surfaces;
-}
-
 std::unique_ptr<StudioWindow> makeStudioWindow(
     SharedObjects& objects, StudioSurfaces surfaces, std::function<void()> openKeyboardSettings)
 {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "app/StudioPicker.h"
-#include "app/StudioSheets.h"
+#include "studio/StudioCollaborators.h"
 
 #include <functional>
 #include <memory>
@@ -10,24 +9,6 @@ namespace tarvin {
 
 class SharedObjects;
 class StudioWindow;
-
-/// What opens from the Studio. What is open goes with this object.
-class StudioEditors
-{
-public:
-    /// @param platform, objects outlive this
-    StudioEditors(const Platform& platform, SharedObjects& objects)
-        : m_picker(platform, objects)
-        , m_sheets(platform, objects)
-    { }
-
-    /// Not to be called after this object has gone.
-    [[nodiscard]] StudioSurfaces surfaces();
-
-private:
-    StudioPicker m_picker;
-    StudioSheets m_sheets;
-};
 
 /// Makes the Studio, hidden, of the program's objects, which outlive it.
 /// @param openKeyboardSettings shows the settings of the system

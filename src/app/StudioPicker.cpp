@@ -1,7 +1,6 @@
 #include "app/StudioPicker.h"
 
-#include "platform/ports/ApplicationFolders.h"
-#include "studio/applications/view/ApplicationPictures.h"
+#include "app/core/StudioEditing.h"
 #include "studio/cards/view/CardBody.h"
 #include "studio/picker/view/ActionPickerView.h"
 
@@ -39,12 +38,6 @@ private:
 };
 
 } // namespace
-
-StudioPicker::StudioPicker(const Platform& platform, SharedObjects& objects)
-    : m_uuids(platform.uuids)
-    , m_editing(platform, objects)
-    , m_icons(platform.scheduler, picturesOf(platform.applicationFolders))
-{ }
 
 StudioPicker::~StudioPicker()
 {

@@ -1,18 +1,13 @@
 #include "app/StudioSheets.h"
 
+#include "app/core/StudioEditing.h"
 #include "studio/applications/view/AddAppSheet.h"
-#include "studio/applications/view/ApplicationPictures.h"
 #include "studio/settings/view/SettingsSheet.h"
 #include "ui/Sheet.h"
 
 #include <utility>
 
 namespace tarvin {
-
-StudioSheets::StudioSheets(const Platform& platform, SharedObjects& objects)
-    : m_editing(platform, objects)
-    , m_icons(platform.scheduler, picturesOf(platform.applicationFolders))
-{ }
 
 StudioSheets::~StudioSheets()
 {

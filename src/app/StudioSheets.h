@@ -1,21 +1,24 @@
 #pragma once
 
-#include "app/core/StudioEditing.h"
 #include "studio/StudioCollaborators.h"
-#include "studio/applications/view/ApplicationIcons.h"
 
 #include <QPointer>
 
 namespace tarvin {
 
+class ApplicationIcons;
 class Sheet;
+class StudioEditing;
 
 /// The sheets of the Studio. A sheet that is up goes with this object.
 class StudioSheets
 {
 public:
-    /// @param platform, objects outlive this
-    StudioSheets(const Platform& platform, SharedObjects& objects);
+    /// Both outlive this.
+    StudioSheets(const StudioEditing& editing, ApplicationIcons& icons)
+        : m_editing(editing)
+        , m_icons(icons)
+    { }
     ~StudioSheets();
     StudioSheets(const StudioSheets&) = delete;
     StudioSheets& operator=(const StudioSheets&) = delete;
@@ -27,8 +30,8 @@ private:
     void showSettings(QWidget& window);
     void showAddApplication(QWidget& window);
 
-    StudioEditing m_editing;
-    ApplicationIcons m_icons;
+    const StudioEditing& m_editing;
+    ApplicationIcons& m_icons;
     QPointer<Sheet> m_sheet; ///< the window owns it
 };
 

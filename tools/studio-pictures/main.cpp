@@ -4,23 +4,17 @@
 //   tarvin-studio-pictures FOLDER
 
 #include "actions/usage/ActionUsageTracker.h"
-#include "app/StudioPicker.h"
+#include "app/StudioEditors.h"
+#include "app/StudioMaking.h"
 #include "app/core/NoToolPanelWindows.h"
 #include "app/core/SharedObjects.h"
-#include "app/core/StudioEditing.h"
-#include "interception/AccessibilityHelper.h"
 #include "interception/EventTapManager.h"
-#include "interception/FnKeyModeHelper.h"
 #include "platform/simulated/SimulatedPlatform.h"
 #include "profiles/KeyProfile.h"
-#include "shell/BackgroundModeManager.h"
-#include "shell/BatteryHelper.h"
-#include "shell/KeyboardTactileEngine.h"
 #include "studio/StudioBody.h"
 #include "studio/StudioWindow.h"
 #include "studio/TarvinLogoView.h"
 #include "studio/applications/view/AddAppSheet.h"
-#include "studio/applications/view/ApplicationIcons.h"
 #include "studio/keyboard/MacBookAirKeyboardView.h"
 #include "studio/picker/view/ActionPickerView.h"
 #include "studio/settings/view/SettingsSheet.h"
@@ -86,15 +80,8 @@ public:
         const QSize& size = MainContentView::idealSize)
     {
         m_objects.eventTapManager().start();
-        StudioWindow window({.keyProfile = profile(),
-                                .eventTapManager = m_objects.eventTapManager(),
-                                .fnKeyModeHelper = m_objects.fnKeyModeHelper(),
-                                .batteryHelper = m_objects.batteryHelper(),
-                                .tactileEngine = m_objects.keyboardTactileEngine(),
-                                .backgroundModeManager = m_objects.backgroundModeManager(),
-                                .accessibilityHelper = m_objects.accessibilityHelper(),
-                                .openKeyboardSettings = [] {}},
-            surfaces());
+        const std::unique_ptr<StudioWindow> made = makeStudioWindow(m_objects, m_editors.surfaces(), [] {});
+        StudioWindow& window = *made;
         window.resize(size);
         // Before the window is shown nothing moves, so what is drawn is at rest.
         if (prepare)
@@ -111,17 +98,14 @@ public:
 
     void showSettings(StudioWindow& window, SettingsTab tab)
     {
-        const Sheet* const sheet = Sheet::present(
-            window, [this](Sheet::Close close) { return new SettingsSheet(m_editing.settings(std::move(close))); });
-        dynamic_cast<SettingsSheet&>(sheet->panel()).tabs().button(tab).click();
+        m_editors.surfaces().showSettings(window);
+        dynamic_cast<SettingsSheet&>(Sheet::over(window)->panel()).tabs().button(tab).click();
     }
     /// @param typed in the search field
     void showAddApplication(StudioWindow& window, const QString& typed)
     {
-        const Sheet* const sheet = Sheet::present(window, [this](Sheet::Close close) {
-            return new AddAppSheet(m_editing.addApplication(std::move(close)), m_icons);
-        });
-        dynamic_cast<AddAppSheet&>(sheet->panel()).searchField().setText(typed);
+        m_editors.surfaces().showAddApplication(window);
+        dynamic_cast<AddAppSheet&>(Sheet::over(window)->panel()).searchField().setText(typed);
         m_platform.scheduler().runPosted(); // what is installed
         static_cast<void>(window.grab());
         m_platform.scheduler().runPosted(); // the icons that are seen
@@ -130,19 +114,10 @@ public:
     void notice(const QString& text) { m_objects.eventTapManager().recordTriggerDirectly(text); }
 
 private:
-    StudioSurfaces surfaces()
-    {
-        StudioSurfaces surfaces;
-        m_picker.addTo(surfaces);
-        return surfaces;
-    }
-
     simulated::SimulatedPlatform m_platform;
     NoToolPanelWindows m_panels;
     SharedObjects m_objects{m_platform.ports(), m_panels};
-    StudioPicker m_picker{m_platform.ports(), m_objects};
-    StudioEditing m_editing{m_platform.ports(), m_objects};
-    ApplicationIcons m_icons{m_platform.scheduler(), inventedIcon};
+    StudioEditors m_editors{m_platform.ports(), m_objects, inventedIcon};
 };
 
 /// The window as it comes to rest with a key selected and perhaps a search typed.
