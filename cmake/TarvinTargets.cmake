@@ -31,12 +31,17 @@ endif()
 target_compile_definitions(tarvin_options INTERFACE QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
                                                     QT_NO_FOREACH TARVIN_VERSION="${PROJECT_VERSION}")
 # Where files are joined, a class may well have members of a type that is the file's own.
-if(CMAKE_UNITY_BUILD)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND (CMAKE_UNITY_BUILD OR TARVIN_JOIN_TESTS))
     target_compile_options(tarvin_options INTERFACE -Wno-subobject-linkage)
 endif()
 # Optimising across files, gcc 12 sees sizes in the hash tables of Qt that cannot be.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_link_options(tarvin_options INTERFACE -Wno-alloc-size-larger-than)
+endif()
+# The tests are many programs, and nobody keeps what is linked for development.
+find_program(TARVIN_FAST_LINKER mold)
+if(TARVIN_FAST_LINKER AND CMAKE_BUILD_TYPE STREQUAL "Debug")
+    add_link_options(-fuse-ld=mold)
 endif()
 if(TARVIN_SANITIZE)
     target_compile_options(tarvin_options INTERFACE -fsanitize=${TARVIN_SANITIZE} -fno-omit-frame-pointer
@@ -83,6 +88,22 @@ endif()
 add_custom_target(tarvin_rule_tests)
 add_custom_target(tarvin_thread_tests)
 
+# tarvin_join_sources(NAME): compiles those of the target's sources as one that define nothing of the same name. Most of
+# the time of compiling a test goes into what every test includes. After an edit that gives two files the same name,
+# configure again.
+function(tarvin_join_sources name)
+    get_target_property(sources ${name} SOURCES)
+    list(FILTER sources INCLUDE REGEX "\\.cpp$")
+    execute_process(COMMAND ${PROJECT_SOURCE_DIR}/tools/source_lots.py 8 ${sources}
+        WORKING_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} OUTPUT_VARIABLE lots COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX MATCHALL "[^\n]+" lines "${lots}")
+    foreach(line IN LISTS lines)
+        string(REGEX MATCH "^([0-9]+) (.*)$" _ "${line}")
+        set_source_files_properties(${CMAKE_MATCH_2} PROPERTIES UNITY_GROUP lot${CMAKE_MATCH_1})
+    endforeach()
+    set_target_properties(${name} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
+endfunction()
+
 # tarvin_test(NAME SOURCES file... LINKS target... [LABELS label...]): one GoogleTest program, each of its tests known to
 # ctest by name. Without LABELS its folder decides between `rules` and `system`.
 function(tarvin_test name)
@@ -106,6 +127,10 @@ function(tarvin_test name)
         set_target_properties(tarvin_test_pch PROPERTIES AUTOMOC OFF EXCLUDE_FROM_ALL ON)
     endif()
     target_precompile_headers(${name} REUSE_FROM tarvin_test_pch)
+    set_target_properties(${name} PROPERTIES UNITY_BUILD OFF)
+    if(TARVIN_JOIN_TESTS)
+        tarvin_join_sources(${name})
+    endif()
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
     # The properties above can't hold a list, so the labels are set where ctest reads what was discovered.
     set(labels ${CMAKE_CURRENT_BINARY_DIR}/${name}_labels.cmake)
