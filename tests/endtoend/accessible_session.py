@@ -40,13 +40,16 @@ class AccessibleSession(Session):
         self.client.wait()
 
     def ask(self, *request):
-        self.client.stdin.write(json.dumps(request) + "\n")
-        self.client.stdin.flush()
-        return json.loads(self.client.stdout.readline())
+        """Where an object goes while it is looked at, as in a pane that slides out, the look begins anew."""
+        def whole_look():
+            self.client.stdin.write(json.dumps(request) + "\n")
+            self.client.stdin.flush()
+            answer = json.loads(self.client.stdout.readline())
+            return None if isinstance(answer, dict) else [answer]
+        return until(f"an answer to {request}", whole_look)[0]
 
     def objects(self):
-        answer = self.ask("everything", "Tarvin")
-        return answer if isinstance(answer, list) else []
+        return self.ask("everything", "Tarvin")
 
     def object(self, pattern):
         """The first object whose name is like that; None if there is none."""
@@ -54,6 +57,13 @@ class AccessibleSession(Session):
 
     def until_there(self, pattern):
         return until(f'an object called "{pattern}"', lambda: self.object(pattern))
+
+    def until_state(self, name, state, is_so=True):
+        """Of what has exactly that name."""
+        def is_there():
+            thing = self.object(re.escape(name))
+            return thing and (state in thing["states"]) == is_so
+        until(f'"{name}" {"" if is_so else "not "}{state}', is_there)
 
     def press_control(self, name):
         self.assertIs(self.ask("press", "Tarvin", name), True, f'"{name}" can be pressed')

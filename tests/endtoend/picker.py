@@ -16,12 +16,12 @@ class Picker(AccessibleSession):
         found = (thing["states"] for thing in self.objects() if re.fullmatch(pattern, thing["name"]))
         return next((states for states in found if "showing" in states), [])
 
-    def until_state(self, pattern, state):
+    def until_in_sight(self, pattern, state):
         until(f'"{pattern}" {state}', lambda: state in self.states(pattern))
 
     def select(self, key_name):
         self.click_control(key_name)
-        self.until_state(re.escape(key_name), "selected")
+        self.until_in_sight(re.escape(key_name), "selected")
         self.until_there("Actions")
 
     def close_window(self):
@@ -31,7 +31,7 @@ class Picker(AccessibleSession):
 
     def search(self, text):
         self.click_control("Search actions...")
-        self.until_state(r"Search actions\.\.\.", "focused")
+        self.until_in_sight(r"Search actions\.\.\.", "focused")
         self.type(text)
 
     def test_a_new_user_searches_chooses_and_uses_the_key(self):
@@ -43,7 +43,7 @@ class Picker(AccessibleSession):
         self.click_control("Clipboard History")
         self.until_there(re.escape("Customized • Clipboard History"))
         self.until_there("F5, customised: Clipboard History")
-        self.until_state("Clipboard History", "checked")
+        self.until_in_sight("Clipboard History", "checked")
         until("the stored mapping", lambda: "F5" in self.stored().get("global", {}))
         self.assertEqual(self.stored(), {"global": {"F5": {**NEW_RECORD, "action": "clipboard_history"}}},
                          "that key and no other")
@@ -76,16 +76,16 @@ class Picker(AccessibleSession):
         self.search("calculator")
         self.until_there("1 found")
         self.type_key("Down")
-        self.until_state("Calculator", "focused")
+        self.until_in_sight("Calculator", "focused")
         self.type_key("Return")
         self.until_there("F5, customised: Calculator")
         until("the stored mapping", lambda: self.stored().get("global", {}).get("F5", {}).get("action") == "calculator")
         self.type_key("Escape")
         self.until_there("RECOMMENDED")
-        self.until_state(r"Search actions\.\.\.", "focused")
+        self.until_in_sight(r"Search actions\.\.\.", "focused")
         self.type_key("Escape")
         until("the pane gone", lambda: not self.object("RECOMMENDED"))
-        self.until_state("F5, customised: Calculator", "focused")
+        self.until_in_sight("F5, customised: Calculator", "focused")
         self.assertNotIn("selected", self.states("F5, customised: Calculator"))
 
     def test_the_program_ends_while_the_pane_is_open(self):
@@ -98,13 +98,13 @@ class Picker(AccessibleSession):
     def test_a_section_folds_for_assistive_technology(self):
         self.open_studio()
         self.select("F5, customisable: Dictation")
-        self.until_state("RECOMMENDED", "expanded")
+        self.until_in_sight("RECOMMENDED", "expanded")
         self.press_control("RECOMMENDED")
         until("the section folded", lambda: "expanded" not in self.states("RECOMMENDED"))
         until("its rows gone", lambda: "showing" not in self.states("Open website URL"))
         self.press_control("RECOMMENDED")
-        self.until_state("RECOMMENDED", "expanded")
-        self.until_state("Open website URL", "showing")
+        self.until_in_sight("RECOMMENDED", "expanded")
+        self.until_in_sight("Open website URL", "showing")
 
 
 if __name__ == "__main__":

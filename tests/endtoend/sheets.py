@@ -24,9 +24,6 @@ class Sheets(AccessibleSession):
     def states(self, name):
         return (self.object(re.escape(name)) or {"states": []})["states"]
 
-    def until_state(self, name, state):
-        until(f"{name} {state}", lambda: state in self.states(name))
-
     def open_settings(self):
         self.press_control("Settings")
         self.until_dialogs(SETTINGS)
@@ -118,7 +115,7 @@ class Sheets(AccessibleSession):
         self.open_studio()
         self.open_settings()
         self.until_state("Function Keys (F1–F12)", "checked")
-        self.assertTrue(self.object(re.escape("Function Keys (F1–F12)"))["description"].startswith("1 Customized. "))
+        self.assertTrue(self.until_there(re.escape("Function Keys (F1–F12)"))["description"].startswith("1 Customized. "))
         self.press_control("Function Keys (F1–F12)")
         until("the stored switch off", lambda: self.setting("Tarvin_FunctionKeysEnabled") is False)
         self.until_there("Other Keys Active • .*")
@@ -141,8 +138,8 @@ class Sheets(AccessibleSession):
         until("the stored switch off", lambda: self.setting("Tarvin_InterceptionEnabled") is False)
         self.until_there("Tarvin Deactivated • Apple Factory Defaults Active")
         for portion in ("Function Keys (F1–F12)", "Rest of Custom Keys"):
-            until(f"{portion} greyed out", lambda: "enabled" not in self.states(portion))
-            self.assertIn("MASTER OFF", self.object(re.escape(portion))["description"])
+            self.until_state(portion, "enabled", is_so=False)
+            self.assertIn("MASTER OFF", self.until_there(re.escape(portion))["description"])
         self.assertEqual(self.press_f5(application, 1), ["F5"])
         self.press_control("Activate Tarvin App")
         until("the stored switch on", lambda: self.setting("Tarvin_InterceptionEnabled") is True)

@@ -28,11 +28,11 @@ class Studio(AccessibleSession):
             self.assertIn(name, live)
         for name in live:
             self.press_control(name)
-            until(f"{name} selected", lambda: "selected" in self.object(re.escape(name))["states"])
+            self.until_state(name, "selected")
         selected = [thing["name"] for thing in self.objects() if "selected" in thing["states"] and "customisable" in thing["name"]]
         self.assertEqual(selected, [live[-1]], "one key at a time")
         self.press_control(live[-1])
-        until("no key selected", lambda: "selected" not in self.object(re.escape(live[-1]))["states"])
+        self.until_state(live[-1], "selected", is_so=False)
 
     def test_keys_say_what_they_do_and_whether_they_are_paused(self):
         self.map_keys(**{"global": {"F5": "clipboard_history", "CapsLock": shortcut(5, "G")}})
@@ -42,7 +42,7 @@ class Studio(AccessibleSession):
         self.press_control("F1–F12")
         self.until_there("F5, customised, paused: Clipboard History")
         self.until_there(re.escape("F1–F12: 1/12 (Paused)"))
-        self.assertEqual(self.object("Caps Lock.*")["name"], "Caps Lock, customised: Keyboard shortcut")
+        self.assertEqual(self.until_there("Caps Lock.*")["name"], "Caps Lock, customised: Keyboard shortcut")
 
     def test_the_switches_are_stored_and_decide_what_keys_do(self):
         self.map_keys(**{"global": {"F5": shortcut(5, "G")}})
@@ -50,10 +50,10 @@ class Studio(AccessibleSession):
         self.open_studio()
         for name, setting in (("Custom Keys", "Tarvin_InterceptionEnabled"), ("F1–F12", "Tarvin_FunctionKeysEnabled"),
                               ("Other Keys", "Tarvin_OtherKeysEnabled")):
-            self.assertIn("checked", self.object(name)["states"])
+            self.until_state(name, "checked")
             self.press_control(name)
             until(f"{setting} off", lambda: self.setting(setting) is False)
-            until(f"{name} not checked", lambda: "checked" not in self.object(name)["states"])
+            self.until_state(name, "checked", is_so=False)
         application.come_to_front()
         self.settle()
         self.press("+f5 40ms -f5")
@@ -95,7 +95,7 @@ class Studio(AccessibleSession):
         self.press_control("Safari")
         self.until_there("2 customized for Safari")
         self.until_there("F6, customised: Copy")
-        self.assertEqual(self.object("F5,.*")["name"], "F5, customisable: Dictation")
+        self.assertEqual(self.until_there("F5,.*")["name"], "F5, customisable: Dictation")
         self.press_control("Reset all function keys for Safari to Apple defaults")
         self.until_there("0 customized for Safari")
         until("the stored profiles", lambda: not self.stored().get("safari"))
@@ -113,7 +113,7 @@ class Studio(AccessibleSession):
     def test_the_window_is_the_same_after_it_was_hidden(self):
         process = self.open_studio()
         self.press_control("Other Keys")
-        until("the switch off", lambda: "checked" not in self.object("Other Keys")["states"])
+        self.until_state("Other Keys", "checked", is_so=False)
         self.desktop.ask("wmctrl", "-ic", self.desktop.active_window().decode())
         until("no window", lambda: b"Keyboard Studio" not in self.desktop.ask("xwininfo", "-root", "-tree")
               or b"IsViewable" not in self.desktop.ask("xwininfo", "-name", "Tarvin — MacBook Air Keyboard Studio"))
