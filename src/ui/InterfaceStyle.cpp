@@ -16,12 +16,14 @@ namespace tarvin {
 
 namespace {
 
-constexpr Colour tipFill{0.17, 0.17, 0.19};
+constexpr Colour floatingFill{0.17, 0.17, 0.19}; // of tips and menus
+constexpr Colour floatingStroke = palette::white.at(0.14);
 constexpr int tipFrame = 5;
 constexpr int scrollBarRoom = 10;
 constexpr double scrollBarWidth = 4;
 constexpr int shortestSlider = 28;
 constexpr TextStyle tipText{.size = 11, .weight = TextWeight::regular, .face = TextFace::rounded};
+constexpr TextStyle menuText{.size = 12, .weight = TextWeight::medium, .face = TextFace::rounded};
 
 } // namespace
 
@@ -42,10 +44,12 @@ QPalette InterfaceStyle::standardPalette() const
     QPalette colours(palette::buttonStroke.toQColor(), palette::windowBackground.toQColor());
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
         colours.setColor(role, palette::white.at(0.9));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        colours.setColor(QPalette::Disabled, role, palette::white.at(0.3));
     colours.setColor(QPalette::Window, palette::windowBackground);
     colours.setColor(QPalette::Base, palette::panelBackground);
     colours.setColor(QPalette::Button, Colour{0.16, 0.16, 0.18});
-    colours.setColor(QPalette::ToolTipBase, tipFill);
+    colours.setColor(QPalette::ToolTipBase, floatingFill);
     colours.setColor(QPalette::Highlight, palette::mintTeal.at(0.35));
     colours.setColor(QPalette::HighlightedText, palette::white);
     return colours;
@@ -57,7 +61,13 @@ void InterfaceStyle::polish(QWidget* widget)
         widget->setFont(fontOf(tipText));
         QPalette colours = widget->palette();
         colours.setColor(QPalette::ToolTipText, palette::white.at(0.9));
-        colours.setColor(QPalette::ToolTipBase, tipFill);
+        colours.setColor(QPalette::ToolTipBase, floatingFill);
+        widget->setPalette(colours);
+    }
+    if (widget->inherits("QMenu")) {
+        widget->setFont(fontOf(menuText));
+        QPalette colours = widget->palette();
+        colours.setColor(QPalette::Base, floatingFill);
         widget->setPalette(colours);
     }
     QProxyStyle::polish(widget);
@@ -66,12 +76,16 @@ void InterfaceStyle::polish(QWidget* widget)
 void InterfaceStyle::drawPrimitive(
     PrimitiveElement element, const QStyleOption* option, QPainter* painter, const QWidget* widget) const
 {
-    if (element != PE_PanelTipLabel) {
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
+    switch (element) {
+    case PE_PanelTipLabel:
+        painter->fillRect(option->rect, floatingFill.toQColor());
+        [[fallthrough]];
+    case PE_FrameMenu:
+        strokePlate(*painter, option->rect, 0, 1, floatingStroke);
         return;
+    default:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
-    painter->fillRect(option->rect, tipFill.toQColor());
-    strokePlate(*painter, option->rect, 0, 1, palette::white.at(0.14));
 }
 
 void InterfaceStyle::drawComplexControl(
