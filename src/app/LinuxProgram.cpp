@@ -13,6 +13,7 @@
 #include "interception/TriggerNotice.h"
 #include "menubar/MenuBarItem.h"
 #include "platform/linux/desktop/ApplicationId.h"
+#include "platform/linux/desktop/FieldPasting.h"
 #include "platform/linux/desktop/InstanceRequest.h"
 #include "platform/linux/desktop/KeyboardSettings.h"
 #include "platform/linux/desktop/SingleInstance.h"
@@ -65,6 +66,7 @@ public:
               {.settleKeys = [this] { m_desktop.inputThread.settle(); },
                   .installedApplications = [this] { return m_desktop.applications.index().catalog.entries().size(); }})
         , m_editors(m_desktop.ports(), m_objects)
+        , m_fieldPasting(m_desktop.pasteboard)
     { }
 
     /// Until somebody asks the program to end.
@@ -154,6 +156,7 @@ private:
     SharedObjects m_objects;
     ProgramCommands m_commands;
     StudioEditors m_editors;
+    desktop::FieldPasting m_fieldPasting;
     std::optional<desktop::TrayLookout> m_trayLookout;
     std::optional<MenuBarItem> m_menuBarItem;
 };

@@ -119,6 +119,19 @@ class ToolPanels(Session):
         self.type_key("ctrl+c")
         until("the note", lambda: self.clipboard() == "buy milk\nand tea")
 
+    def test_what_was_copied_is_pasted_into_the_note(self):
+        self.start_program("--startup")
+        self.open("f6", "Quick Scratchpad")
+        self.copy("from outside")
+        until("the copied text", lambda: self.clipboard() == "from outside")
+        self.type_key("ctrl+v")
+        until("the text pasted", lambda: self.setting("Tarvin_QuickScratchpadContent") == "from outside")
+        self.type_key("ctrl+a")
+        self.type_key("ctrl+x")
+        until("the text cut", lambda: self.setting("Tarvin_QuickScratchpadContent") == "")
+        self.type_key("shift+Insert")
+        until("the program's own text pasted", lambda: self.setting("Tarvin_QuickScratchpadContent") == "from outside")
+
     def test_an_item_of_the_ring_acts_once_on_the_application_behind_it(self):
         application = Application(self.desktop, "editor")
         self.start_program("--startup")
