@@ -11,7 +11,11 @@ FlowLayout::FlowLayout(int spacing, QWidget* parent)
     setContentsMargins(0, 0, 0, 0);
 }
 
-FlowLayout::~FlowLayout() = default;
+FlowLayout::~FlowLayout()
+{
+    // One by one, because a layout in here takes itself out of the list when it goes.
+    while (const std::unique_ptr<QLayoutItem> item{takeAt(0)}) { }
+}
 
 void FlowLayout::addItem(QLayoutItem* item)
 {

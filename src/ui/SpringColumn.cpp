@@ -17,7 +17,11 @@ SpringColumn::SpringColumn(int spacing, const Motion& motion, QWidget* parent)
     setContentsMargins(0, 0, 0, 0);
 }
 
-SpringColumn::~SpringColumn() = default;
+SpringColumn::~SpringColumn()
+{
+    // One by one, because a layout in here takes itself out of the list when it goes.
+    while (const std::unique_ptr<QLayoutItem> item{takeAt(0)}) { }
+}
 
 SpringColumn::Change::Change(SpringColumn& column)
     : m_column(column)

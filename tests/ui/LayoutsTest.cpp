@@ -4,10 +4,14 @@
 #include "ui/TextBlock.h"
 #include "ui/TextLine.h"
 
+#include <QHBoxLayout>
+#include <QSpacerItem>
 #include <QTest>
 #include <QWidget>
 
 #include <gtest/gtest.h>
+
+#include <type_traits>
 
 namespace tarvin {
 
@@ -110,6 +114,53 @@ TEST_F(SpringColumnTest, aChangeOfNothingStartsNothing)
         widgets[1]->show();
     }
     EXPECT_FALSE(column->isMoving());
+}
+
+/// A gap that counts how often one has gone.
+class CountedGap : public QSpacerItem
+{
+public:
+    explicit CountedGap(int& gone)
+        : QSpacerItem(1, 1)
+        , m_gone(gone)
+    { }
+    ~CountedGap() override { ++m_gone; }
+    Q_DISABLE_COPY_MOVE(CountedGap)
+
+private:
+    int& m_gone;
+};
+
+/// The two layouts that are the program's own.
+template <typename Layout> class OwningLayout : public testing::Test
+{
+protected:
+    static Layout* make(QWidget& widget)
+    {
+        if constexpr (std::is_same_v<Layout, SpringColumn>)
+            return new SpringColumn(0, Motion::spring(0.05, 0.8), &widget);
+        else
+            return new FlowLayout(0, &widget);
+    }
+};
+using OwnLayouts = testing::Types<FlowLayout, SpringColumn>;
+TYPED_TEST_SUITE(OwningLayout, OwnLayouts);
+
+TYPED_TEST(OwningLayout, layoutsWithinGoWithIt)
+{
+    int gone = 0;
+    {
+        QWidget widget;
+        auto* const layout = this->make(widget);
+        for (int i = 0; i < 3; ++i) {
+            auto* const within = new QHBoxLayout;
+            within->addItem(new CountedGap(gone));
+            layout->addItem(within);
+            within->setParent(layout);
+            layout->addItem(new CountedGap(gone));
+        }
+    }
+    EXPECT_EQ(gone, 6);
 }
 
 TEST(FlowLayoutTest, beginsANewLineWhereTheNextThingDoesNotFit)
