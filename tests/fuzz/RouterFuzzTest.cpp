@@ -34,7 +34,7 @@ FKeySet pressAndRelease(FuzzedSession& session)
         session.wait(100);
     }
     session.desktop.advance(10ms);
-    for (std::uint64_t repeat = session.chance.percent(20) ? 20 : 0; repeat > 0; --repeat) {
+    for (std::uint64_t repeat = session.chance.percent(20) && !keys.empty() ? 20 : 0; repeat > 0; --repeat) {
         session.desktop.advance(40ms);
         session.keyboard.repeat(*keys.begin());
     }
