@@ -46,6 +46,10 @@ endif()
 if(TARVIN_SANITIZE)
     target_compile_options(tarvin_options INTERFACE -fsanitize=${TARVIN_SANITIZE} -fno-omit-frame-pointer
                                                     -fno-sanitize-recover=all)
+    # With what the sanitizers insert, gcc no longer sees that an optional is looked at before its value.
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        target_compile_options(tarvin_options INTERFACE -Wno-maybe-uninitialized)
+    endif()
     target_link_options(tarvin_options INTERFACE -fsanitize=${TARVIN_SANITIZE})
 endif()
 
