@@ -119,7 +119,7 @@ class Cards(AccessibleSession):
         ways = {"another window": editor.come_to_front,
                 "the pane closed": self.close_pane,
                 "the window closed": lambda: self.desktop.ask("wmctrl", "-c", "MacBook Air Keyboard Studio"),
-                "the program killed": process.kill}
+                "the program killed": lambda: (process.kill(), process.wait())}
         for count, (way, leave) in enumerate(ways.items(), 1):
             # A second start shows the window of the first.
             self.desktop.start(self.program)

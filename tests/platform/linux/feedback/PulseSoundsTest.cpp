@@ -61,7 +61,8 @@ public:
             return {};
         const QByteArray bytes = file.readAll();
         std::vector<std::int16_t> values(static_cast<std::size_t>(bytes.size() / 2));
-        std::memcpy(values.data(), bytes.constData(), values.size() * 2);
+        if (!values.empty())
+            std::memcpy(values.data(), bytes.constData(), values.size() * 2);
         return values;
     }
 
