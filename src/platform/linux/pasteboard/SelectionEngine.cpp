@@ -91,9 +91,11 @@ void SelectionEngine::propertyChanged(const xcb_property_notify_event_t& change,
 {
     if (change.window == m_server->window()) {
         if (change.atom == m_server->atom(SelectionAtom::tarvinTime) && m_own) {
-            m_offer.set(*m_own, change.time);
+            // First, because a long text takes its time to be made ready; who asks meanwhile waits for it.
             xcb_set_selection_owner(
                 m_server->handle(), m_server->window(), m_server->atom(SelectionAtom::clipboard), change.time);
+            xcb_flush(m_server->handle());
+            m_offer.set(*m_own, change.time);
         }
         return;
     }
