@@ -41,18 +41,15 @@ void SelectionEngine::own(const PasteboardText& content)
 std::optional<Clock::time_point> SelectionEngine::attend()
 {
     while (true) {
-        advanceReadings(Clock::now());
+        workOff(Clock::now());
+        // Before the look and not after it: sending may read events into the queue of the library, where the caller,
+        // who waits for the socket, would not see them.
+        xcb_flush(m_server->handle());
         const XOwned<xcb_generic_event_t> event(xcb_poll_for_event(m_server->handle()));
         if (!event)
             break;
         handle(*event, Clock::now());
     }
-    const Clock::time_point now = Clock::now();
-    m_offer.timePassed(now);
-    if (!m_readings.empty() && m_readings.front().reader)
-        m_readings.front().reader->timePassed(now);
-    advanceReadings(now);
-    xcb_flush(m_server->handle());
 
     std::optional<Clock::time_point> next = m_offer.deadline();
     if (!m_readings.empty()) {
@@ -60,6 +57,15 @@ std::optional<Clock::time_point> SelectionEngine::attend()
         next = next ? std::min(*next, deadline) : deadline;
     }
     return next;
+}
+
+/// What needs no event.
+void SelectionEngine::workOff(Clock::time_point now)
+{
+    m_offer.timePassed(now);
+    if (!m_readings.empty() && m_readings.front().reader)
+        m_readings.front().reader->timePassed(now);
+    advanceReadings(now);
 }
 
 void SelectionEngine::handle(const xcb_generic_event_t& event, Clock::time_point now)

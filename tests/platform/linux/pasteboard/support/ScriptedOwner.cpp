@@ -13,10 +13,11 @@ ScriptedOwner::ScriptedOwner(const std::string& display, Behaviour behaviour)
     : m_client(display)
     , m_behaviour(std::move(behaviour))
     , m_window(xcb_generate_id(connection()))
+    , m_clipboard(atom("CLIPBOARD"))
 {
     xcb_create_window(connection(), XCB_COPY_FROM_PARENT, m_window, m_client.root(), 0, 0, 1, 1, 0,
         XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
-    xcb_set_selection_owner(connection(), m_window, atom("CLIPBOARD"), XCB_CURRENT_TIME);
+    xcb_set_selection_owner(connection(), m_window, m_clipboard, XCB_CURRENT_TIME);
     m_client.sync();
     m_thread = std::thread(&ScriptedOwner::run, this);
 }
@@ -25,6 +26,12 @@ ScriptedOwner::~ScriptedOwner()
 {
     m_isEnding = true;
     m_thread.join();
+}
+
+void ScriptedOwner::copyAgain() const
+{
+    xcb_set_selection_owner(connection(), m_window, m_clipboard, XCB_CURRENT_TIME);
+    m_client.sync();
 }
 
 void ScriptedOwner::disconnect()

@@ -24,6 +24,9 @@ public:
     /// Ends as an application that crashes: the connection goes, and the ownership with it.
     ~ScriptedOwner();
 
+    /// As an application that copies something else. The server has told everybody when this returns.
+    void copyAgain() const;
+
     // For behaviours.
 
     [[nodiscard]] xcb_atom_t atom(const std::string& name) const { return m_client.atom(name); }
@@ -52,6 +55,7 @@ private:
     endtoend::XClient m_client;
     Behaviour m_behaviour;
     xcb_window_t m_window = XCB_NONE;
+    xcb_atom_t m_clipboard = XCB_ATOM_NONE;
     std::atomic<bool> m_isEnding = false;
     std::thread m_thread;
 };
