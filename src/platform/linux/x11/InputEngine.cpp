@@ -51,6 +51,9 @@ bool InputEngine::workOffEvents()
 {
     bool wereThere = false;
     for (;;) {
+        // Before the look for events and not after it: sending may read some into the queue of the library, where the
+        // thread, which waits for the socket, would not see them.
+        m_connection->flush();
         while (const auto event = takeEvent()) {
             wereThere = true;
             handle(*event);
@@ -61,7 +64,6 @@ bool InputEngine::workOffEvents()
         // Waits for answers, and events may come before them.
         refreshKeymap();
     }
-    m_connection->flush();
     return wereThere;
 }
 
