@@ -10,6 +10,8 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 
+#include <utility>
+
 namespace tarvin::desktop {
 
 namespace {
@@ -156,14 +158,19 @@ void FieldPasting::showMenu(QWidget& field, const QContextMenuEvent& event)
 
 void FieldPasting::pasteInto(QWidget& widget)
 {
-    m_pasteboard.readText([field = QPointer(&widget)](const std::optional<PasteboardText>& content) {
-        if (!field || !content)
-            return;
-        withField(field, [&content](auto& editor) {
-            if (isEditable(editor))
-                insert(editor, content->text);
+    if (std::exchange(m_isUnderWay, true))
+        return;
+    m_pasteboard.readText(
+        [self = QPointer(this), field = QPointer(&widget)](const std::optional<PasteboardText>& content) {
+            if (self)
+                self->m_isUnderWay = false;
+            if (!field || !content)
+                return;
+            withField(field, [&content](auto& editor) {
+                if (isEditable(editor))
+                    insert(editor, content->text);
+            });
         });
-    });
 }
 
 } // namespace tarvin::desktop

@@ -35,6 +35,7 @@ private:
     void showMenu(QWidget& field, const QContextMenuEvent& event);
 
     Pasteboard& m_pasteboard;
+    bool m_isUnderWay = false; ///< a held key asks an owner that hangs once and not time and again
 };
 
 } // namespace tarvin::desktop

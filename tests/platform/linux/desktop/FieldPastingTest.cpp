@@ -68,6 +68,19 @@ TEST_F(FieldPastingTest, theTextReplacesWhatIsSelected)
     EXPECT_EQ(field.toPlainText(), u"late"_qs);
 }
 
+TEST_F(FieldPastingTest, aHeldKeyAsksOnceAtATime)
+{
+    QLineEdit field;
+    for (int press = 0; press < 5; ++press)
+        QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(pasteboard.readings(), 1);
+    scheduler.advance(1s);
+    EXPECT_EQ(field.text(), u"late"_qs);
+    QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+    scheduler.advance(1s);
+    EXPECT_EQ(field.text(), u"latelate"_qs);
+}
+
 TEST_F(FieldPastingTest, nothingIsPastedWhereTheClipboardHasNoText)
 {
     QLineEdit field(u"kept"_qs);
