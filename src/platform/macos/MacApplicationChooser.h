@@ -4,8 +4,8 @@
 
 namespace tarvin::macos {
 
-/// The system's open panel, which lets the user choose one application bundle. It is no sheet, so that its title shows.
-/// Main thread only.
+/// The system's open panel, which lets the user choose one application bundle. It is modal, and no sheet, so that its
+/// title shows. Main thread only.
 class MacApplicationChooser final : public ApplicationChooser
 {
 public:

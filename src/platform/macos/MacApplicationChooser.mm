@@ -24,12 +24,10 @@ NSOpenPanel* makePanel(const ApplicationRequest& request)
     panel.canChooseDirectories = NO;
     panel.allowsMultipleSelection = NO;
     panel.allowedContentTypes = @[ UTTypeApplicationBundle ];
-    // The windows of the program can be clicked meanwhile, and must not cover it then.
-    panel.level = NSModalPanelWindowLevel;
     return panel;
 }
 
-/// A panel from its opening on, until it has told its answer or is not wanted any more.
+/// A modal panel from its opening on, until it has told its answer or is not wanted any more.
 class OpenPanel final : public ApplicationDialog
 {
 public:
@@ -38,18 +36,22 @@ public:
         , m_onChoice(std::make_shared<ApplicationChooser::ChoiceHandler>(std::move(onChoice)))
     {
         const auto shared = m_onChoice;
-        // The panel holds its handler, which must not hold the panel.
-        __weak NSOpenPanel* const answering = panel;
-        [panel beginWithCompletionHandler:^(NSModalResponse response) {
+        // In a turn of the main loop and not as a task of the main queue: the panel runs a loop of its own until it is
+        // answered, and the queue, which runs one task at a time, would stand still so long.
+        CFRunLoopPerformBlock(CFRunLoopGetMain(), kCFRunLoopCommonModes, ^{
+            if (!*shared)
+                return; // not wanted any more before it was shown
+            const NSModalResponse response = [panel runModal];
             if (const auto handler = std::exchange(*shared, nullptr))
-                handler(chosenPath(response, optionalString(answering.URL.path)));
-        }];
+                handler(chosenPath(response, optionalString(panel.URL.path)));
+        });
+        CFRunLoopWakeUp(CFRunLoopGetMain());
     }
     OpenPanel(const OpenPanel&) = delete;
     OpenPanel& operator=(const OpenPanel&) = delete;
     ~OpenPanel() override
     {
-        if (std::exchange(*m_onChoice, nullptr))
+        if (std::exchange(*m_onChoice, nullptr) && m_panel.visible)
             [m_panel cancel:nil];
     }
 

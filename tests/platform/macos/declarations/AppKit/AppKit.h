@@ -25,7 +25,6 @@
 typedef NSUInteger NSWindowStyleMask;
 typedef NSUInteger NSWindowCollectionBehavior;
 typedef NSInteger NSWindowLevel;
-enum : NSWindowLevel { NSModalPanelWindowLevel = 8 };
 enum : NSWindowStyleMask { NSWindowStyleMaskNonactivatingPanel = 128 };
 enum : NSWindowCollectionBehavior {
     NSWindowCollectionBehaviorCanJoinAllSpaces = 1,
@@ -69,7 +68,7 @@ enum : NSModalResponse { NSModalResponseOK = 1 };
 @property (copy) NSString* title;
 @property (copy) NSString* message;
 @property (copy) NSArray<UTType*>* allowedContentTypes;
-- (void)beginWithCompletionHandler:(void (^)(NSModalResponse response))handler;
+- (NSModalResponse)runModal;
 - (void)cancel:(id)sender;
 @end
 

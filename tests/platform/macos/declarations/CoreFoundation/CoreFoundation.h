@@ -40,6 +40,8 @@ const void* CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index);
 
 CFRunLoopRef CFRunLoopGetMain(void);
 int32_t CFRunLoopRunInMode(CFStringRef mode, double seconds, Boolean returnAfterSourceHandled);
+void CFRunLoopPerformBlock(CFRunLoopRef loop, CFTypeRef mode, void (^block)(void));
+void CFRunLoopWakeUp(CFRunLoopRef loop);
 void CFRunLoopAddSource(CFRunLoopRef loop, CFRunLoopSourceRef source, CFStringRef mode);
 void CFRunLoopRemoveSource(CFRunLoopRef loop, CFRunLoopSourceRef source, CFStringRef mode);
 CFRunLoopSourceRef CFMachPortCreateRunLoopSource(CFAllocatorRef allocator, CFMachPortRef port, CFIndex order);
