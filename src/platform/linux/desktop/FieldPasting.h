@@ -31,7 +31,7 @@ public:
     [[nodiscard]] std::unique_ptr<QMenu> menuOf(QWidget& widget);
 
 private:
-    void pasteInto(QWidget& field);
+    void pasteInto(QWidget& widget);
     void showMenu(QWidget& field, const QContextMenuEvent& event);
 
     Pasteboard& m_pasteboard;
