@@ -41,14 +41,15 @@ void SelectionEngine::own(const PasteboardText& content)
 std::optional<Clock::time_point> SelectionEngine::attend()
 {
     while (true) {
-        workOff(Clock::now());
+        advanceReadings(Clock::now());
         // Before the look and not after it: sending may read events into the queue of the library, where the caller,
         // who waits for the socket, would not see them.
         xcb_flush(m_server->handle());
         const XOwned<xcb_generic_event_t> event(xcb_poll_for_event(m_server->handle()));
-        if (!event)
+        if (event)
+            handle(*event, Clock::now());
+        else if (!giveUpSilent(Clock::now()))
             break;
-        handle(*event, Clock::now());
     }
 
     std::optional<Clock::time_point> next = m_offer.deadline();
@@ -59,13 +60,16 @@ std::optional<Clock::time_point> SelectionEngine::attend()
     return next;
 }
 
-/// What needs no event.
-void SelectionEngine::workOff(Clock::time_point now)
+/// Only when no event waits: an answer that is there counts, however late this thread comes to it.
+/// @return whether a reading has ended so
+bool SelectionEngine::giveUpSilent(Clock::time_point now)
 {
     m_offer.timePassed(now);
-    if (!m_readings.empty() && m_readings.front().reader)
-        m_readings.front().reader->timePassed(now);
-    advanceReadings(now);
+    if (m_readings.empty())
+        return false;
+    SelectionReader& reader = *m_readings.front().reader;
+    reader.timePassed(now);
+    return reader.hasEnded();
 }
 
 void SelectionEngine::handle(const xcb_generic_event_t& event, Clock::time_point now)

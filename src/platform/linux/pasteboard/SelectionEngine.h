@@ -51,7 +51,7 @@ private:
         std::int64_t ownerChange;
     };
 
-    void workOff(Clock::time_point now);
+    [[nodiscard]] bool giveUpSilent(Clock::time_point now);
     void handle(const xcb_generic_event_t& event, Clock::time_point now);
     void propertyChanged(const xcb_property_notify_event_t& change, Clock::time_point now);
     void ownerChanged(xcb_window_t owner, bool hasOwnerGone);
