@@ -54,17 +54,15 @@ bool InputEngine::workOffEvents()
         // Before the look for events and not after it: sending may read some into the queue of the library, where the
         // thread, which waits for the socket, would not see them.
         m_connection->flush();
-        while (const auto event = takeEvent()) {
+        if (const auto event = takeEvent()) {
             wereThere = true;
             handle(*event);
-            m_connection->flush();
+        } else if (m_isKeymapStale) {
+            refreshKeymap(); // waits for answers, and events may come before them
+        } else {
+            return wereThere;
         }
-        if (!m_isKeymapStale)
-            break;
-        // Waits for answers, and events may come before them.
-        refreshKeymap();
     }
-    return wereThere;
 }
 
 void InputEngine::settle()
