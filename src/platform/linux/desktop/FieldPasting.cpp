@@ -16,54 +16,35 @@ namespace tarvin::desktop {
 
 namespace {
 
-bool isEditable(const QLineEdit& field)
+bool isEditable(const auto& field)
 {
     return !field.isReadOnly() && field.isEnabled();
 }
 
-bool isEditable(const QPlainTextEdit& field)
+/// What the entries of the menu depend on.
+struct Content
 {
-    return !field.isReadOnly() && field.isEnabled();
+    bool isEmpty;
+    bool hasSelection;
+    bool canUndo;
+    bool canRedo;
+};
+
+Content contentOf(const QLineEdit& field)
+{
+    return {.isEmpty = field.text().isEmpty(),
+        .hasSelection = field.hasSelectedText(),
+        .canUndo = field.isUndoAvailable(),
+        .canRedo = field.isRedoAvailable()};
 }
 
-bool hasSelection(const QLineEdit& field)
+Content contentOf(const QPlainTextEdit& field)
 {
-    return field.hasSelectedText();
-}
-
-bool hasSelection(const QPlainTextEdit& field)
-{
-    return field.textCursor().hasSelection();
-}
-
-bool isEmpty(const QLineEdit& field)
-{
-    return field.text().isEmpty();
-}
-
-bool isEmpty(const QPlainTextEdit& field)
-{
-    return field.document()->isEmpty();
-}
-
-bool canUndo(const QLineEdit& field)
-{
-    return field.isUndoAvailable();
-}
-
-bool canUndo(const QPlainTextEdit& field)
-{
-    return field.document()->isUndoAvailable();
-}
-
-bool canRedo(const QLineEdit& field)
-{
-    return field.isRedoAvailable();
-}
-
-bool canRedo(const QPlainTextEdit& field)
-{
-    return field.document()->isRedoAvailable();
+    const QTextDocument& document = *field.document();
+    return {.isEmpty = document.isEmpty(),
+        .hasSelection = field.textCursor().hasSelection(),
+        .canUndo = document.isUndoAvailable(),
+        .canRedo = document.isRedoAvailable()};
 }
 
 void insert(QLineEdit& field, const QString& text)
@@ -82,23 +63,26 @@ void insert(QPlainTextEdit& field, const QString& text)
     field.ensureCursorVisible();
 }
 
-/// Calls `use` with the widget as the field that it is; a press of the mouse on a plain text reaches its viewport.
+/// The field, also for the viewport, where a press of the mouse on a plain text arrives; null for all else.
+QPlainTextEdit* plainTextOf(QObject* object)
+{
+    if (auto* const field = qobject_cast<QPlainTextEdit*>(object))
+        return field;
+    auto* const around = qobject_cast<QPlainTextEdit*>(object->parent());
+    return around && around->viewport() == object ? around : nullptr;
+}
+
+/// Calls `use` with the object as the field that it is.
 /// @return false if it is none
 template <typename Use> bool withField(QObject* object, const Use& use)
 {
-    if (auto* const line = qobject_cast<QLineEdit*>(object)) {
+    if (auto* const line = qobject_cast<QLineEdit*>(object))
         use(*line);
-        return true;
-    }
-    auto* text = qobject_cast<QPlainTextEdit*>(object);
-    if (!text && object->parent()) {
-        text = qobject_cast<QPlainTextEdit*>(object->parent());
-        if (text && text->viewport() != object)
-            text = nullptr;
-    }
-    if (text)
+    else if (auto* const text = plainTextOf(object))
         use(*text);
-    return text != nullptr;
+    else
+        return false;
+    return true;
 }
 
 template <typename Field, typename Paste> void fill(QMenu& menu, Field& field, const Paste& paste)
@@ -109,14 +93,15 @@ template <typename Field, typename Paste> void fill(QMenu& menu, Field& field, c
         action->setEnabled(isPossible);
     };
     const bool edits = isEditable(field);
-    add(QStringLiteral("Undo"), QKeySequence::Undo, edits && canUndo(field), &field, &Field::undo);
-    add(QStringLiteral("Redo"), QKeySequence::Redo, edits && canRedo(field), &field, &Field::redo);
+    const Content content = contentOf(field);
+    add(QStringLiteral("Undo"), QKeySequence::Undo, edits && content.canUndo, &field, &Field::undo);
+    add(QStringLiteral("Redo"), QKeySequence::Redo, edits && content.canRedo, &field, &Field::redo);
     menu.addSeparator();
-    add(QStringLiteral("Cut"), QKeySequence::Cut, edits && hasSelection(field), &field, &Field::cut);
-    add(QStringLiteral("Copy"), QKeySequence::Copy, hasSelection(field), &field, &Field::copy);
+    add(QStringLiteral("Cut"), QKeySequence::Cut, edits && content.hasSelection, &field, &Field::cut);
+    add(QStringLiteral("Copy"), QKeySequence::Copy, content.hasSelection, &field, &Field::copy);
     add(QStringLiteral("Paste"), QKeySequence::Paste, edits, &field, paste);
     menu.addSeparator();
-    add(QStringLiteral("Select All"), QKeySequence::SelectAll, !isEmpty(field), &field, &Field::selectAll);
+    add(QStringLiteral("Select All"), QKeySequence::SelectAll, !content.isEmpty, &field, &Field::selectAll);
 }
 
 } // namespace
@@ -134,8 +119,8 @@ bool FieldPasting::eventFilter(QObject* watched, QEvent* event)
         return static_cast<QKeyEvent*>(event)->matches(QKeySequence::Paste)
             && withField(watched, [this](auto& field) { pasteInto(field); });
     case QEvent::ContextMenu:
-        return withField(
-            watched, [this, event](auto& field) { showMenu(field, *static_cast<QContextMenuEvent*>(event)); });
+        return watched->isWidgetType()
+            && showMenu(*static_cast<QWidget*>(watched), *static_cast<QContextMenuEvent*>(event));
     default:
         return false;
     }
@@ -143,17 +128,22 @@ bool FieldPasting::eventFilter(QObject* watched, QEvent* event)
 
 std::unique_ptr<QMenu> FieldPasting::menuOf(QWidget& widget)
 {
-    auto menu = std::make_unique<QMenu>(&widget);
-    const bool isField =
-        withField(&widget, [this, &menu](auto& field) { fill(*menu, field, [this, &field] { pasteInto(field); }); });
-    return isField ? std::move(menu) : nullptr;
+    std::unique_ptr<QMenu> menu;
+    withField(&widget, [this, &menu](auto& field) {
+        menu = std::make_unique<QMenu>(&field);
+        fill(*menu, field, [this, &field] { pasteInto(field); });
+    });
+    return menu;
 }
 
-void FieldPasting::showMenu(QWidget& field, const QContextMenuEvent& event)
+bool FieldPasting::showMenu(QWidget& widget, const QContextMenuEvent& event)
 {
-    QMenu* const menu = menuOf(field).release();
+    QMenu* const menu = menuOf(widget).release(); // the field owns it
+    if (!menu)
+        return false;
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->popup(event.globalPos());
+    return true;
 }
 
 void FieldPasting::pasteInto(QWidget& widget)

@@ -32,7 +32,8 @@ public:
 
 private:
     void pasteInto(QWidget& widget);
-    void showMenu(QWidget& field, const QContextMenuEvent& event);
+    /// @return false where the widget is no text field
+    bool showMenu(QWidget& widget, const QContextMenuEvent& event);
 
     Pasteboard& m_pasteboard;
     bool m_isUnderWay = false; ///< a held key asks an owner that hangs once and not time and again
